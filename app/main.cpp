@@ -1,0 +1,27 @@
+#include <QApplication>
+#include <clocale>
+
+#include "qt/CalculatorWindow.h"
+#include "qt/QtPlatform.h"
+#include "ui/DYXWindowController.h"
+
+int main(int argc, char** argv) {
+    // A drawer needs to know where the window stands, which only X11 tells.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    }
+    const QApplication application(argc, argv);
+    // The toolkit switches the C library to the user's locale; numbers stay blind to it.
+    std::setlocale(LC_NUMERIC, "C");
+    talvex::QtPlatform platform;
+    talvex::DYXWindowController controller(platform);
+    talvex::CalculatorWindow window(controller);
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &window,
+                     [&controller](Qt::ApplicationState state) {
+                         if (state == Qt::ApplicationActive) {
+                             controller.applicationWillBecomeActive();
+                         }
+                     });
+    window.show();
+    return QApplication::exec();
+}

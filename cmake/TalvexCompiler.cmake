@@ -1,0 +1,39 @@
+# How every file of the project is compiled.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+find_program(TALVEX_CCACHE ccache)
+if(TALVEX_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${TALVEX_CCACHE})
+endif()
+
+add_library(talvex_compiler INTERFACE)
+
+target_compile_options(talvex_compiler INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+    # The same bits everywhere: no fused multiply-add, and no rewriting of pow(2, x) into exp2(x).
+    -ffp-contract=off -fno-builtin-pow)
+
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Debian 12's own string header trips this one at -O2.
+    target_compile_options(talvex_compiler INTERFACE -Wno-restrict)
+endif()
+
+if(TALVEX_SANITIZE)
+    set(talvex_sanitizers
+        -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
+    target_compile_options(talvex_compiler INTERFACE ${talvex_sanitizers})
+    target_link_options(talvex_compiler INTERFACE ${talvex_sanitizers})
+endif()
+
+if(TALVEX_FUZZ)
+    set(talvex_fuzzing -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+    target_compile_options(talvex_compiler INTERFACE ${talvex_fuzzing})
+    target_link_options(talvex_compiler INTERFACE ${talvex_fuzzing})
+endif()

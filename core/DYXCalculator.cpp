@@ -1,0 +1,158 @@
+#include "core/DYXCalculator.h"
+
+#include <span>
+
+#include "display/display_modes.h"
+#include "numeric/DYXRoundToDigits.h"
+
+namespace talvex {
+namespace {
+
+// Which modifiers a press of a key leaves as they are; it clears the others.
+struct KeptModifiers {
+    std::uint32_t category;
+    std::uint32_t action;
+    bool inverseAndHyperbolic;
+    bool recall;
+    bool store;
+};
+
+constexpr std::array<KeptModifiers, 8> kKeptModifiers{{
+    {fourCC("modi"), fourCC("ARC "), true, false, false},
+    {fourCC("modi"), fourCC("HYP "), true, false, false},
+    {fourCC("memo"), fourCC("RCL "), false, true, false},
+    {fourCC("memo"), fourCC("STO "), false, false, true},
+    {fourCC("memo"), fourCC("STO+"), false, false, true},
+    {fourCC("memo"), fourCC("STO-"), false, false, true},
+    {fourCC("memo"), fourCC("STO*"), false, false, true},
+    {fourCC("memo"), fourCC("STO/"), false, false, true},
+}};
+
+KeptModifiers keptBy(const Comand& command) {
+    for (const KeptModifiers& row : kKeptModifiers) {
+        if (row.category == command.category && row.action == command.action) {
+            return row;
+        }
+    }
+    return {};
+}
+
+struct StackRow {
+    std::uint32_t action;
+    void (DYXStack::*move)();
+};
+
+constexpr std::array<StackRow, 4> kStackMoves{{
+    {fourCC("LSTX"), &DYXStack::recallLastX},
+    {fourCC("ROLD"), &DYXStack::rollDown},
+    {fourCC("ROLU"), &DYXStack::rollUp},
+    {fourCC("X<>Y"), &DYXStack::swapXY},
+}};
+
+}  // namespace
+
+struct DYXCalculator::CategoryRow {
+    std::uint32_t category;
+    Handler handler;
+};
+
+DYXCalculator::DYXCalculator(Platform& platform, const DisplayFields& fields)
+    : platform_(platform),
+      xDisplay_(std::make_unique<DYXInputDisplay>(platform, fields)),
+      yDisplay_(xDisplay_->copy()),
+      zDisplay_(yDisplay_->copy()),
+      tDisplay_(zDisplay_->copy()),
+      cDisplay_(tDisplay_->copy()) {
+    yDisplay_->setLabelString(u"Y:");
+    zDisplay_->setLabelString(u"Z:");
+    tDisplay_->setLabelString(u"T:");
+    cDisplay_->setLabelString(u"C:");
+}
+
+DisplayFields DYXCalculator::plainFields() {
+    const auto slot = [] { return std::make_shared<NSTextField>(); };
+    return {.mantissa = slot(),
+            .mantissaSign = slot(),
+            .exponent = slot(),
+            .exponentSign = slot(),
+            .label = slot(),
+            .status = slot()};
+}
+
+void DYXCalculator::doCommand(const Comand& command) {
+    static constexpr std::array<CategoryRow, 10> kCategories{{
+        {fourCC("bina"), &DYXCalculator::doCommandBinary},
+        {fourCC("cons"), &DYXCalculator::doCommandConstant},
+        {fourCC("data"), &DYXCalculator::doCommandDataEntry},
+        {fourCC("memo"), &DYXCalculator::doCommandMemory},
+        {fourCC("modi"), &DYXCalculator::doCommandModifier},
+        {fourCC("null"), &DYXCalculator::doCommandNullinary},
+        {fourCC("quad"), &DYXCalculator::doCommandQuadranary},
+        {fourCC("stac"), &DYXCalculator::doCommandStack},
+        {fourCC("trin"), &DYXCalculator::doCommandTrinary},
+        {fourCC("unit"), &DYXCalculator::doCommandUnitary},
+    }};
+    for (const CategoryRow& row : kCategories) {
+        if (row.category == command.category) {
+            (this->*row.handler)(command);
+            break;
+        }
+    }
+    roundMonetaryX();
+    updateDisplay();
+    lastCommand_ = command;
+}
+
+void DYXCalculator::takeDYXButtonFrom(const NSButton& button) {
+    const Comand command = commandFromString(
+        button.alternateTitle().empty() ? button.title() : button.alternateTitle());
+    doCommand(command);
+    clearUsedModifiers(command);
+    updateModifiers();
+}
+
+void DYXCalculator::clearUsedModifiers(const Comand& command) {
+    const KeptModifiers kept = keptBy(command);
+    inverse = inverse && kept.inverseAndHyperbolic;
+    hyperbolic = hyperbolic && kept.inverseAndHyperbolic;
+    recall_ = recall_ && kept.recall;
+    store_ = kept.store ? store_ : kNothingArmed;
+}
+
+void DYXCalculator::roundMonetaryX() {
+    if (xDisplay_->inputMode() == mode::MON) {
+        stack_.x() = DYXRoundToDigits(stack_.x(), xDisplay_->digits());
+    }
+}
+
+void DYXCalculator::updateRegister() {
+    if (inputState_ == InputState::entering) {
+        stack_.x() = xDisplay_->doubleValue();
+        roundMonetaryX();
+    }
+}
+
+void DYXCalculator::updateDisplay() {
+    if (inputState_ == InputState::entering) {
+        xDisplay_->update();
+    } else {
+        xDisplay_->setOutputTo(stack_.reg[0]);
+    }
+    yDisplay_->setOutputTo(stack_.reg[1]);
+    zDisplay_->setOutputTo(stack_.reg[2]);
+    tDisplay_->setOutputTo(stack_.reg[3]);
+    updateControls();
+}
+
+void DYXCalculator::doCommandStack(const Comand& command) {
+    for (const StackRow& row : kStackMoves) {
+        if (row.action == command.action) {
+            updateRegister();
+            (stack_.*row.move)();
+            inputState_ = InputState::lifting;
+            return;
+        }
+    }
+}
+
+}  // namespace talvex

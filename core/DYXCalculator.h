@@ -1,0 +1,148 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <utility>
+
+#include "core/Comand.h"
+#include "core/DYXStack.h"
+#include "display/DYXOutputDisplay.h"
+#include "entry/DYXInputDisplay.h"
+#include "numeric/DYXMathContext.h"
+#include "platform/NSButton.h"
+#include "platform/Platform.h"
+
+namespace talvex {
+
+// Where X is, and what the next digit does.
+enum class InputState : std::int32_t {
+    entering = 0,   // X is the text of the entry; the digit goes on with it
+    replacing = 1,  // X is in its register; the digit replaces it
+    lifting = 2,    // X is in its register; the digit lifts the stack first
+};
+
+// A memory register operation that the next register key completes; the numbers are those of the
+// store keys.
+inline constexpr std::int32_t kNothingArmed = 0;
+inline constexpr std::int32_t kPlainStore = 1;
+
+// A whole calculator without a window: registers, modifiers, five lines, and the one path that
+// every command takes. It knows no keys and no layout; where it makes something visible beyond its
+// lines it calls `updateModifiers` and `updateControls`, which do nothing here.
+class DYXCalculator : public DYXMathContext {
+  public:
+    static constexpr std::size_t kMemoryRegisters = 22;
+
+    // The slots are those of the X line; the other lines get copies. The platform has to outlive
+    // the calculator.
+    explicit DYXCalculator(Platform& platform, const DisplayFields& fields = plainFields());
+    DYXCalculator(const DYXCalculator&) = delete;
+    DYXCalculator& operator=(const DYXCalculator&) = delete;
+    virtual ~DYXCalculator() = default;
+
+    // Slots that belong to no window.
+    static DisplayFields plainFields();
+
+    // Runs a command: its handler, the rounding of X in input mode MON, and the display; then the
+    // command becomes `lastCommand`. Unknown codes change no register and no state.
+    void doCommand(const Comand& command);
+    // A press of a key: its command, from the alternate title or else the title, with the modifiers
+    // as they are; then clears the modifiers that the press used up.
+    void takeDYXButtonFrom(const NSButton& button);
+
+    // Brings X up to date with the entry, if one is live. Doesn't change the state.
+    void updateRegister();
+    // Shows the registers on the lines, and what depends on them.
+    void updateDisplay();
+
+    [[nodiscard]] InputState inputState() const { return inputState_; }
+    void setInputState(InputState state) { inputState_ = state; }
+    [[nodiscard]] const Comand& lastCommand() const { return lastCommand_; }
+    [[nodiscard]] DYXStack& stack() { return stack_; }
+    [[nodiscard]] const DYXStack& stack() const { return stack_; }
+    // 0 to 19 have keys; 20 is saved and 21 isn't even that.
+    [[nodiscard]] std::array<double, kMemoryRegisters>& mem() { return mem_; }
+    [[nodiscard]] const std::array<double, kMemoryRegisters>& mem() const { return mem_; }
+
+    [[nodiscard]] bool recall() const { return recall_; }
+    void setRecall(bool recall) { recall_ = recall; }
+    // What is armed: 0 nothing, 1 store, 2 to 5 store with +, -, *, /.
+    [[nodiscard]] std::int32_t store() const { return store_; }
+    void setStore(std::int32_t store) { store_ = store; }
+
+    [[nodiscard]] DYXInputDisplay& xDisplay() { return *xDisplay_; }
+    [[nodiscard]] const DYXInputDisplay& xDisplay() const { return *xDisplay_; }
+    [[nodiscard]] DYXOutputDisplay& yDisplay() { return *yDisplay_; }
+    [[nodiscard]] DYXOutputDisplay& zDisplay() { return *zDisplay_; }
+    [[nodiscard]] DYXOutputDisplay& tDisplay() { return *tDisplay_; }
+    // Not on show: formats numbers for the clipboard.
+    [[nodiscard]] DYXOutputDisplay& cDisplay() { return *cDisplay_; }
+
+    // Shows which modifiers are on.
+    virtual void updateModifiers() {}
+
+  protected:
+    // Brings everything up to date that shows the calculator's state besides the lines.
+    virtual void updateControls() {}
+    [[nodiscard]] Platform& platform() const { return platform_; }
+
+  private:
+    using Handler = void (DYXCalculator::*)(const Comand&);
+    struct CategoryRow;
+    struct DataEntryRow;
+
+    void roundMonetaryX();
+    void clearUsedModifiers(const Comand& command);
+
+    void doCommandStack(const Comand& command);
+
+    // Data entry, in data_entry_commands.cpp.
+    void doCommandDataEntry(const Comand& command);
+    void doCommandDataEntryDigit(const Comand& command);
+    void doCommandDataEntryDecimal(const Comand& command);
+    void doCommandDataEntryBackspace(const Comand& command);
+    void doCommandDataEntryEEX(const Comand& command);
+    void doCommandDataEntrySetExponent(const Comand& command);
+    void doCommandDataEntryChangeSign(const Comand& command);
+    void doCommandDataEntryEnter(const Comand& command);
+    void doCommandDataEntryClear(const Comand& command);
+    void doCommandDataEntryClearStack(const Comand& command);
+    void doCommandDataEntryClearAll(const Comand& command);
+    template <class Start>
+    void startEntry(Start start);
+    void beginReplacing();
+
+    // Memory registers, in memory_commands.cpp.
+    void doCommandMemory(const Comand& command);
+    void doCommandMemoryDigit(const Comand& command);
+    void doCommandMemoryDirect(const Comand& command);
+    void operateOnRegister(std::int32_t operation, unsigned number);
+
+    // Functions, constants and modifiers, in function_commands.cpp.
+    void doCommandUnitary(const Comand& command);
+    void doCommandBinary(const Comand& command);
+    void doCommandTrinary(const Comand& command);
+    void doCommandQuadranary(const Comand& command);
+    void doCommandNullinary(const Comand& command);
+    void doCommandConstant(const Comand& command);
+    void doCommandModifier(const Comand& command);
+    template <class Row, std::size_t... Register>
+    void applyFunction(const Row* row, std::index_sequence<Register...> registers);
+    void bringNumber(double number);
+
+    Platform& platform_;
+    InputState inputState_ = InputState::lifting;
+    Comand lastCommand_;
+    DYXStack stack_;
+    std::array<double, kMemoryRegisters> mem_{};
+    bool recall_ = false;
+    std::int32_t store_ = kNothingArmed;
+    std::unique_ptr<DYXInputDisplay> xDisplay_;
+    std::unique_ptr<DYXOutputDisplay> yDisplay_;
+    std::unique_ptr<DYXOutputDisplay> zDisplay_;
+    std::unique_ptr<DYXOutputDisplay> tDisplay_;
+    std::unique_ptr<DYXOutputDisplay> cDisplay_;
+};
+
+}  // namespace talvex

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "numeric/DYXMathContext.h"
+
+// The tables behind the keys: an action code and the function to call. A row holds a plain
+// function, or one that reads the calculator's settings; X always comes first, then Y. A row whose
+// function doesn't exist yet is passed over by the look-up, like an action without a row.
+namespace talvex {
+
+template <class... Operands>
+struct FunctionRow {
+    using Plain = double (*)(Operands...);
+    using Checked = double (*)(const DYXMathContext&, Operands...);
+
+    std::uint32_t action = 0;
+    Plain plain = nullptr;
+    Checked checked = nullptr;
+
+    [[nodiscard]] double operator()(const DYXMathContext& context, Operands... operands) const {
+        return plain != nullptr ? plain(operands...) : checked(context, operands...);
+    }
+};
+
+using UnaryRow = FunctionRow<double>;
+using BinaryRow = FunctionRow<double, double>;
+using TrinaryRow = FunctionRow<double, double, double>;
+using QuadranaryRow = FunctionRow<double, double, double, double>;
+
+// A number with a key of its own; physical constants in SI units.
+struct ConstantRow {
+    std::uint32_t action;
+    double value;
+};
+
+[[nodiscard]] std::span<const UnaryRow> unitaries();
+[[nodiscard]] std::span<const BinaryRow> binaries();
+[[nodiscard]] std::span<const TrinaryRow> trinaries();
+[[nodiscard]] std::span<const QuadranaryRow> quadranaries();
+[[nodiscard]] std::span<const ConstantRow> constants();
+
+// The first row with a function for the action, or null.
+template <class Row>
+[[nodiscard]] const Row* findFunction(std::span<const Row> table, std::uint32_t action) {
+    for (const Row& row : table) {
+        if (row.action == action && (row.plain != nullptr || row.checked != nullptr)) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+[[nodiscard]] const ConstantRow* findConstant(std::uint32_t action);
+
+}  // namespace talvex

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// The thirteen display modes, for output and for input alike. The numbers are stored in the saved
+// state: they are a file format.
+namespace talvex {
+
+namespace mode {
+inline constexpr std::int32_t FIX = 0;
+inline constexpr std::int32_t SCI = 1;
+inline constexpr std::int32_t ENG = 2;
+inline constexpr std::int32_t MON = 3;
+inline constexpr std::int32_t FRC = 4;
+inline constexpr std::int32_t CAR = 5;
+inline constexpr std::int32_t HMS = 6;
+inline constexpr std::int32_t DMS = 7;
+inline constexpr std::int32_t HEX = 8;
+inline constexpr std::int32_t DEC = 9;
+inline constexpr std::int32_t OCT = 10;
+inline constexpr std::int32_t BIN = 11;
+inline constexpr std::int32_t IRR = 12;
+inline constexpr std::int32_t count = 13;
+}  // namespace mode
+
+// Whether the number is that of a mode; saved values may be anything.
+constexpr bool isDisplayMode(std::int32_t number) { return number >= 0 && number < mode::count; }
+
+// HEX, DEC, OCT and BIN.
+constexpr bool isIntegerMode(std::int32_t number) {
+    return number >= mode::HEX && number <= mode::BIN;
+}
+
+// The three letters of a mode; "???" for any other number.
+std::u16string displayModeName(std::int32_t number);
+
+// The name with a small triangle behind it, and ahead of it; "???" for any other number.
+std::u16string outputModeTitle(std::int32_t number);
+std::u16string inputModeTitle(std::int32_t number);
+
+}  // namespace talvex

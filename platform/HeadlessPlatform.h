@@ -1,0 +1,25 @@
+#pragma once
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "platform/Platform.h"
+
+namespace talvex {
+
+// A desktop kept in memory, for tests, benchmarks and fuzzers.
+class HeadlessPlatform final : public Platform {
+  public:
+    void NSBeep() override { ++beeps; }
+    void NSLog(const std::u16string& line) override { log.push_back(line); }
+    std::uint32_t arc4random() override { return static_cast<std::uint32_t>(random()); }
+    [[nodiscard]] NSNumberFormat numberFormat() const override { return format; }
+
+    int beeps = 0;
+    std::vector<std::u16string> log;
+    std::mt19937 random;  // always the same numbers, so that a test can be run again
+    NSNumberFormat format;
+};
+
+}  // namespace talvex

@@ -1,0 +1,47 @@
+#include "platform/NSButton.h"
+
+#include <utility>
+
+#include "platform/NSEvent.h"
+
+namespace talvex {
+
+void NSButton::setTitle(std::u16string title) { update(title_, std::move(title)); }
+
+void NSButton::setAttributedTitle(NSAttributedString title) {
+    update(attributedTitle_, std::move(title));
+}
+
+void NSButton::setAlternateTitle(std::u16string title) {
+    update(alternateTitle_, std::move(title));
+}
+
+void NSButton::setImage(std::u16string name) { update(image_, std::move(name)); }
+
+void NSButton::setAlternateImage(std::u16string name) { update(alternateImage_, std::move(name)); }
+
+void NSButton::setImagePosition(NSImagePosition position) { update(imagePosition_, position); }
+
+void NSButton::setState(int state) { update(state_, state); }
+
+void NSButton::setFont(const NSFont& font) { update(font_, font); }
+
+bool NSButton::performKeyEquivalent(const NSEvent& event) {
+    const bool isMine =
+        !keyEquivalent_.empty() && event.charactersIgnoringModifiers == keyEquivalent_;
+    if (isMine) {
+        performClick();
+    }
+    return isMine;
+}
+
+void NSButton::performClick() {
+    if (toggles_) {
+        setState(1 - state_);
+    }
+    if (action_) {
+        action_(*this);
+    }
+}
+
+}  // namespace talvex

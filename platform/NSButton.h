@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "platform/NSAttributedString.h"
+#include "platform/NSView.h"
+
+namespace talvex {
+
+enum class NSImagePosition { noImage = 0, imageOnly = 1 };
+
+// How a button shows that it is pressed or on; flags to be combined.
+enum NSCellMask : std::uint32_t {
+    NSNoCellMask = 0,
+    NSPushInCellMask = 1,
+    NSContentsCellMask = 2,
+    NSChangeGrayCellMask = 4,
+    NSChangeBackgroundCellMask = 8,
+};
+
+// The record of a button. A click sends its action; images go by their resource names.
+class NSButton : public NSView {
+  public:
+    using NSView::NSView;
+
+    [[nodiscard]] const std::u16string& title() const { return title_; }
+    void setTitle(std::u16string title);
+
+    // The title as rich text; empty when only the plain title counts.
+    [[nodiscard]] const NSAttributedString& attributedTitle() const { return attributedTitle_; }
+    void setAttributedTitle(NSAttributedString title);
+
+    [[nodiscard]] const std::u16string& alternateTitle() const { return alternateTitle_; }
+    void setAlternateTitle(std::u16string title);
+
+    [[nodiscard]] const std::u16string& image() const { return image_; }
+    void setImage(std::u16string name);
+    [[nodiscard]] const std::u16string& alternateImage() const { return alternateImage_; }
+    void setAlternateImage(std::u16string name);
+    [[nodiscard]] NSImagePosition imagePosition() const { return imagePosition_; }
+    void setImagePosition(NSImagePosition position);
+
+    // 1 on, 0 off.
+    [[nodiscard]] int state() const { return state_; }
+    void setState(int state);
+
+    [[nodiscard]] const NSFont& font() const { return font_; }
+    void setFont(const NSFont& font);
+
+    [[nodiscard]] std::uint32_t highlightsBy() const { return highlightsBy_; }
+    void setHighlightsBy(std::uint32_t mask) { highlightsBy_ = mask; }
+    [[nodiscard]] std::uint32_t showsStateBy() const { return showsStateBy_; }
+    void setShowsStateBy(std::uint32_t mask) { showsStateBy_ = mask; }
+
+    // A toggling button turns its state over before it sends its action.
+    [[nodiscard]] bool toggles() const { return toggles_; }
+    void setToggles(bool toggles) { toggles_ = toggles; }
+
+    // The keystroke that clicks the button; none if empty.
+    [[nodiscard]] const std::u16string& keyEquivalent() const { return keyEquivalent_; }
+    void setKeyEquivalent(std::u16string key) { keyEquivalent_ = std::move(key); }
+    // Clicks the button if the event is its keystroke, and answers whether it was.
+    virtual bool performKeyEquivalent(const NSEvent& event);
+
+    void setAction(std::function<void(NSButton&)> action) { action_ = std::move(action); }
+    // The mouse went down on the button, before any click.
+    virtual void mouseDown() {}
+    void performClick();
+
+  private:
+    std::u16string title_;
+    NSAttributedString attributedTitle_;
+    std::u16string alternateTitle_;
+    std::u16string image_;
+    std::u16string alternateImage_;
+    NSImagePosition imagePosition_ = NSImagePosition::noImage;
+    int state_ = 0;
+    NSFont font_{.name = u"Lucida Grande", .size = 11.0};
+    std::uint32_t highlightsBy_ = NSPushInCellMask;
+    std::uint32_t showsStateBy_ = NSNoCellMask;
+    bool toggles_ = false;
+    std::u16string keyEquivalent_;
+    std::function<void(NSButton&)> action_;
+};
+
+}  // namespace talvex

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/NSGeometry.h"
+#include "platform/NSView.h"
+
+namespace talvex {
+
+struct NSEvent;
+
+// What a window's content hands on: the keys and the modifier keys.
+class NSResponder {
+  public:
+    // Whether the key was taken.
+    virtual bool keyDown(const NSEvent& event) = 0;
+    virtual void flagsChanged(const NSEvent& event) = 0;
+
+  protected:
+    ~NSResponder() = default;
+};
+
+class NSWindow;
+
+class NSWindowObserver {
+  public:
+    virtual void windowDidChange(const NSWindow& window) = 0;
+
+  protected:
+    ~NSWindowObserver() = default;
+};
+
+// The record of a window: its content, its place on the screen, its title, and where its key events
+// go first.
+class NSWindow {
+  public:
+    // The bar with the title and the window's buttons stands above the content.
+    static constexpr double kTitleBarHeight = 22.0;
+
+    static NSRect frameRectForContentRect(const NSRect& content);
+
+    [[nodiscard]] const std::u16string& title() const { return title_; }
+    void setTitle(std::u16string title);
+
+    [[nodiscard]] const NSRect& frame() const { return frame_; }
+    // Places the window; its content takes the size below the title bar.
+    void setFrame(const NSRect& frame);
+
+    [[nodiscard]] NSView* contentView() const { return contentView_.get(); }
+    void setContentView(std::shared_ptr<NSView> view);
+
+    [[nodiscard]] NSResponder* delegate() const { return delegate_; }
+    void setDelegate(NSResponder* delegate) { delegate_ = delegate; }
+
+    void makeFirstResponder(NSView* view) { firstResponder_ = view; }
+    // Hands a key event to the first responder. Whether a key was taken; changes of the modifier
+    // keys always are.
+    bool sendEvent(const NSEvent& event);
+
+    void setObserver(NSWindowObserver* observer) { observer_ = observer; }
+
+  private:
+    void notify();
+
+    std::u16string title_;
+    NSRect frame_;
+    std::shared_ptr<NSView> contentView_;
+    NSResponder* delegate_ = nullptr;
+    NSView* firstResponder_ = nullptr;
+    NSWindowObserver* observer_ = nullptr;
+};
+
+}  // namespace talvex

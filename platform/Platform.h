@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+// The few things that only a real desktop can do, each behind a small port.
+namespace talvex {
+
+class AlertPort {
+  public:
+    virtual void NSBeep() = 0;
+
+  protected:
+    ~AlertPort() = default;
+};
+
+class LogPort {
+  public:
+    virtual void NSLog(const std::u16string& line) = 0;
+
+  protected:
+    ~LogPort() = default;
+};
+
+class RandomPort {
+  public:
+    // Uniform over all 32-bit numbers.
+    virtual std::uint32_t arc4random() = 0;
+
+  protected:
+    ~RandomPort() = default;
+};
+
+struct NSNumberFormat {
+    std::u16string decimalSeparator = u".";
+    std::uint32_t groupingSize = 3;
+};
+
+class LocalePort {
+  public:
+    // How the system's locale writes numbers at this moment.
+    [[nodiscard]] virtual NSNumberFormat numberFormat() const = 0;
+
+  protected:
+    ~LocalePort() = default;
+};
+
+// All ports of one desktop.
+class Platform : public AlertPort, public LogPort, public RandomPort, public LocalePort {
+  public:
+    virtual ~Platform() = default;
+};
+
+}  // namespace talvex

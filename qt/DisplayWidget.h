@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QWidget>
+#include <array>
+#include <memory>
+
+#include "display/DYXOutputDisplay.h"
+#include "qt/RecordObserver.h"
+#include "ui/DYXView.h"
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+
+// One line of the display: paints the texts of its slots, and speaks as one text.
+class LineWidget final : public QLabel, public NSViewObserver {
+  public:
+    LineWidget(const DYXOutputDisplay& line, NSView& displayView, QWidget* parent);
+    ~LineWidget() override;
+
+    void viewDidChange(const NSView& view) override;
+    // Follows a change of the display's size.
+    void place();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    [[nodiscard]] std::array<NSTextField*, 5> textSlots() const;
+    [[nodiscard]] QString spokenText() const;
+    void updateAccessibleText();
+
+    const DYXOutputDisplay& line_;
+    NSView& displayView_;
+};
+
+// The small text under the X line.
+class StatusWidget final : public QLabel {
+  public:
+    StatusWidget(NSTextField& record, QWidget* parent);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    NSTextField& record_;
+    RecordObserver observer_;
+};
+
+// A control of the display that pulls down a menu.
+class PopUpWidget final : public QAbstractButton {
+  public:
+    PopUpWidget(NSPopUpButton& record, QWidget* parent);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+  private:
+    void showMenu();
+
+    NSPopUpButton& record_;
+    RecordObserver observer_;
+};
+
+// The pale display with its lines, its status text and its controls.
+class DisplayWidget final : public QWidget, public NSViewObserver {
+  public:
+    DisplayWidget(DYXWindowController& controller, QWidget* parent);
+    ~DisplayWidget() override;
+
+    void viewDidChange(const NSView& view) override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    DYXDisplayView& record_;
+    std::array<LineWidget*, 4> lines_{};
+};
+
+}  // namespace talvex

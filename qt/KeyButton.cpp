@@ -1,0 +1,85 @@
+#include "qt/KeyButton.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "qt/images.h"
+#include "qt/rich_text.h"
+#include "ui/simple_tex.h"
+
+namespace talvex {
+namespace {
+
+constexpr double kRadius = 4.0;
+constexpr double kTextMargin = 2.0;
+
+// Words are set smaller than signs, so that all words of the key pad have one size.
+constexpr qsizetype kLongestSign = 3;
+constexpr double kWordSize = 9.0;
+constexpr double kNumberSize = 13.0;
+
+}  // namespace
+
+KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
+    : QAbstractButton(parent), record_(record), group_(group), observer_(*this, record) {
+    setFocusPolicy(Qt::NoFocus);
+    setCheckable(isModifier());
+    connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
+    connect(this, &QAbstractButton::clicked, this, [this] { record_.performClick(); });
+}
+
+bool KeyButton::isModifier() const { return record_.showsStateBy() != NSNoCellMask; }
+
+void KeyButton::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void KeyButton::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void KeyButton::mousePressEvent(QMouseEvent* event) {
+    QAbstractButton::mousePressEvent(event);
+    window()->activateWindow();
+}
+
+void KeyButton::paintEvent(QPaintEvent* /*event*/) {
+    const bool isLit = isModifier() && record_.state() != 0;
+    if (isModifier()) {
+        setChecked(isLit);
+    }
+    const WindowColors& colors = windowColors(palette());
+    const KeyColors& key = isLit ? colors.lit : colors.key(group_);
+    const QColor face = isDown()       ? pressedFace(key.face)
+                        : underMouse() ? hoverFace(key.face)
+                                       : key.face;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(face.darker(isDown() ? 125 : 118), 1.0));
+    painter.setBrush(face);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    const QRectF inside = QRectF(rect()).adjusted(kTextMargin, 0.0, -kTextMargin, 0.0);
+    paintTitle(painter, isDown() ? inside.translated(0.0, 1.0) : inside, key.text);
+}
+
+void KeyButton::paintTitle(QPainter& painter, const QRectF& rect, const QColor& color) const {
+    if (record_.alternateTitle() == u"lock") {
+        paintPadlock(painter, rect, record_.state() != 0, color);
+        return;
+    }
+    if (!record_.image().empty()) {
+        paintImage(painter, rect, record_.image(), color);
+        return;
+    }
+    NSFont font = record_.font();
+    const bool isWord = toQString(record_.title()).size() > kLongestSign &&
+                        record_.title().find(u'^') == std::u16string::npos;
+    const bool isNumber = group_ == KeyGroup::digit || group_ == KeyGroup::operation;
+    font.size = isWord ? kWordSize : isNumber ? kNumberSize : font.size;
+    painter.setPen(color);
+    paintCentered(painter, rect, simpleTexTitle(record_.title(), font));
+}
+
+}  // namespace talvex

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QAbstractButton>
+
+#include "platform/NSButton.h"
+#include "qt/RecordObserver.h"
+#include "qt/palette.h"
+
+namespace talvex {
+
+// A key of the key pad on the screen.
+class KeyButton final : public QAbstractButton {
+  public:
+    KeyButton(NSButton& record, KeyGroup group, QWidget* parent);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    // The record's state decides whether the key is on.
+    void nextCheckState() override {}
+
+  private:
+    [[nodiscard]] bool isModifier() const;
+    void paintTitle(QPainter& painter, const QRectF& rect, const QColor& color) const;
+
+    NSButton& record_;
+    KeyGroup group_;
+    RecordObserver observer_;
+};
+
+}  // namespace talvex

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QPainter>
+
+#include "platform/NSGraphicsContext.h"
+
+namespace talvex {
+
+// Draws with a painter whose y grows downward into a view whose y grows upward.
+class QtGraphicsContext final : public NSGraphicsContext {
+  public:
+    QtGraphicsContext(QPainter& painter, double viewHeight)
+        : painter_(painter), viewHeight_(viewHeight) {}
+
+    [[nodiscard]] bool isFlipped() const override { return false; }
+    void setShouldAntialias(bool antialias) override;
+    void fillRect(const NSRect& rect, const NSColor& color) override;
+    void strokeLine(const NSPoint& start, const NSSize& offset, const NSColor& color) override;
+
+  private:
+    QPainter& painter_;
+    double viewHeight_;
+};
+
+}  // namespace talvex

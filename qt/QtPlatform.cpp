@@ -1,0 +1,44 @@
+#include "qt/QtPlatform.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QLoggingCategory>
+#include <QRandomGenerator>
+
+#include "qt/conversions.h"
+
+namespace talvex {
+namespace {
+
+const QLoggingCategory& category() {
+    static const QLoggingCategory talvex("talvex", QtWarningMsg);
+    return talvex;
+}
+
+// The digits behind the last separator of a number that is long enough to have several.
+std::uint32_t groupingSizeOf(const QLocale& locale) {
+    const QString text = locale.toString(1234567890);
+    const qsizetype separator = text.lastIndexOf(locale.groupSeparator());
+    const bool isGrouped = !locale.groupSeparator().isEmpty() && separator > 0;
+    return isGrouped ? static_cast<std::uint32_t>(text.size() - separator -
+                                                  locale.groupSeparator().size())
+                     : 0;
+}
+
+}  // namespace
+
+void QtPlatform::NSBeep() { QApplication::beep(); }
+
+void QtPlatform::NSLog(const std::u16string& line) {
+    qCDebug(category).noquote() << toQString(line);
+}
+
+std::uint32_t QtPlatform::arc4random() { return QRandomGenerator::system()->generate(); }
+
+NSNumberFormat QtPlatform::numberFormat() const {
+    const QLocale locale = QLocale::system();
+    return {.decimalSeparator = locale.decimalPoint().toStdU16String(),
+            .groupingSize = groupingSizeOf(locale)};
+}
+
+}  // namespace talvex

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Platform.h"
+
+namespace talvex {
+
+// The real desktop behind the ports.
+class QtPlatform final : public Platform {
+  public:
+    void NSBeep() override;
+    // Shown when the logging category "talvex" is switched on.
+    void NSLog(const std::u16string& line) override;
+    std::uint32_t arc4random() override;
+    [[nodiscard]] NSNumberFormat numberFormat() const override;
+};
+
+}  // namespace talvex

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/NSView.h"
+#include "qt/conversions.h"
+
+namespace talvex {
+
+// Keeps a widget in step with one record: place, visibility, hint and accessible name. The widget
+// paints the rest from the record whenever this asks for it.
+class RecordObserver final : public NSViewObserver {
+  public:
+    RecordObserver(QWidget& widget, NSView& record);
+    RecordObserver(const RecordObserver&) = delete;
+    RecordObserver& operator=(const RecordObserver&) = delete;
+    ~RecordObserver();
+
+    void viewDidChange(const NSView& view) override;
+
+  private:
+    QWidget& widget_;
+    NSView& record_;
+};
+
+}  // namespace talvex

@@ -1,0 +1,115 @@
+#include "qt/TitleBar.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+
+#include "qt/images.h"
+#include "qt/palette.h"
+
+namespace talvex {
+namespace {
+
+constexpr int kButtonSide = 16;
+constexpr int kButtonTop = 3;
+constexpr int kEdge = 5;
+constexpr int kStep = 20;
+constexpr int kXyztFromRight = 25;
+constexpr int kIconSide = 13;
+constexpr double kTitleSize = 11.0;
+constexpr double kHoverRadius = 4.0;
+
+}  // namespace
+
+TitleBarButton::TitleBarButton(Sign sign, const QString& name, QWidget* parent)
+    : QAbstractButton(parent), sign_(sign) {
+    setFocusPolicy(Qt::NoFocus);
+    setAccessibleName(name);
+    setToolTip(name);
+}
+
+TitleBarButton::TitleBarButton(NSButton& record, QWidget* parent)
+    : QAbstractButton(parent), record_(&record) {
+    observer_.emplace(*this, record);
+    setFocusPolicy(Qt::NoFocus);
+    connect(this, &QAbstractButton::clicked, this, [this] { record_->performClick(); });
+}
+
+void TitleBarButton::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void TitleBarButton::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void TitleBarButton::paintEvent(QPaintEvent* /*event*/) {
+    const WindowColors& colors = windowColors(palette());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isDown() || underMouse()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isDown() ? pressedFace(colors.function.face) : colors.function.face);
+        painter.drawRoundedRect(QRectF(rect()), kHoverRadius, kHoverRadius);
+    }
+    if (sign_) {
+        paintSign(painter, colors.title);
+    } else {
+        paintImage(painter, rect(), record_->image(), colors.title);
+    }
+}
+
+void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
+    painter.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap));
+    const QRectF box = QRectF(rect()).adjusted(4.5, 4.5, -4.5, -4.5);
+    if (*sign_ == Sign::close) {
+        painter.drawLine(box.topLeft(), box.bottomRight());
+        painter.drawLine(box.topRight(), box.bottomLeft());
+    } else {
+        painter.drawLine(QPointF(box.left(), box.bottom()), box.bottomRight());
+    }
+}
+
+TitleBar::TitleBar(const NSWindow& window, NSButton& xyztButton, QWidget* parent)
+    : QWidget(parent),
+      window_(window),
+      close_(new TitleBarButton(TitleBarButton::Sign::close, QStringLiteral("close"), this)),
+      minimise_(
+          new TitleBarButton(TitleBarButton::Sign::minimise, QStringLiteral("minimise"), this)),
+      xyzt_(new TitleBarButton(xyztButton, this)) {
+    connect(close_, &QAbstractButton::clicked, this, [this] { this->window()->close(); });
+    connect(minimise_, &QAbstractButton::clicked, this,
+            [this] { this->window()->showMinimized(); });
+}
+
+void TitleBar::resizeEvent(QResizeEvent* /*event*/) {
+    close_->setGeometry(kEdge, kButtonTop, kButtonSide, kButtonSide);
+    minimise_->setGeometry(kEdge + kStep, kButtonTop, kButtonSide, kButtonSide);
+    xyzt_->setGeometry(width() - kXyztFromRight, (height() - kIconSide) / 2, kIconSide, kIconSide);
+}
+
+void TitleBar::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setFont(toQFont({.name = u"Lucida Grande", .size = kTitleSize}));
+    painter.setPen(windowColors(palette()).title);
+    painter.drawText(rect(), Qt::AlignCenter, toQString(window_.title()));
+}
+
+void TitleBar::mousePressEvent(QMouseEvent* event) {
+    window()->activateWindow();
+    if (event->button() == Qt::LeftButton && !window()->windowHandle()->startSystemMove()) {
+        dragStart_ = event->globalPosition().toPoint() - window()->pos();
+    }
+}
+
+void TitleBar::mouseMoveEvent(QMouseEvent* event) {
+    if (dragStart_) {
+        window()->move(event->globalPosition().toPoint() - *dragStart_);
+    }
+}
+
+void TitleBar::mouseReleaseEvent(QMouseEvent* /*event*/) { dragStart_.reset(); }
+
+}  // namespace talvex

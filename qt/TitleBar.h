@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QWidget>
+#include <optional>
+
+#include "platform/NSButton.h"
+#include "platform/NSWindow.h"
+#include "qt/RecordObserver.h"
+
+namespace talvex {
+
+// A small button of the title bar: the window's own ones draw a sign, the others their image.
+class TitleBarButton final : public QAbstractButton {
+  public:
+    enum class Sign { close, minimise };
+
+    TitleBarButton(Sign sign, const QString& name, QWidget* parent);
+    TitleBarButton(NSButton& record, QWidget* parent);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+  private:
+    void paintSign(QPainter& painter, const QColor& color) const;
+
+    std::optional<Sign> sign_;
+    NSButton* record_ = nullptr;
+    std::optional<RecordObserver> observer_;
+};
+
+// The bar above the content: the title, the buttons, and the place to drag the window by.
+class TitleBar final : public QWidget {
+  public:
+    TitleBar(const NSWindow& window, NSButton& xyztButton, QWidget* parent);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    const NSWindow& window_;
+    TitleBarButton* close_;
+    TitleBarButton* minimise_;
+    TitleBarButton* xyzt_;
+    std::optional<QPoint> dragStart_;  // of a drag that the desktop doesn't do for us
+};
+
+}  // namespace talvex

@@ -1,0 +1,112 @@
+#include "qt/images.h"
+
+#include <QPainterPath>
+#include <array>
+
+#include "qt/rich_text.h"
+#include "ui/simple_tex.h"
+
+namespace talvex {
+namespace {
+
+// Key images that are formulas.
+struct TextImage {
+    std::u16string_view name;
+    std::u16string_view tex;
+    double size;
+};
+
+constexpr std::array<TextImage, 18> kTextImages{{
+    {u"EEX-3Small", u"10^{\u22123}", 11},
+    {u"EEX-3Pressed", u"10^{\u22123}", 11},
+    {u"EEX-6Small", u"10^{\u22126}", 11},
+    {u"EEX-6Pressed", u"10^{\u22126}", 11},
+    {u"EEX-9Small", u"10^{\u22129}", 11},
+    {u"EEX-9Pressed", u"10^{\u22129}", 11},
+    {u"EEX+3Small", u"10^3", 11},
+    {u"EEX+3Pressed", u"10^3", 11},
+    {u"EEX+6Small", u"10^6", 11},
+    {u"EEX+6Pressed", u"10^6", 11},
+    {u"EEX+9Small", u"10^9", 11},
+    {u"EEX+9Pressed", u"10^9", 11},
+    {u"powyxSmall.tiff", u"y^x", 11},
+    {u"powxySmall.tiff", u"x^y", 11},
+    {u"lnyxSmall.tiff", u"log_{y}x", 11},
+    {u"lnxySmall.tiff", u"log_{x}y", 11},
+    {u"pointSmall.tiff", u".", 17},
+    {u"commaSmall.tiff", u",", 17},
+}};
+
+// The small icons of the title bar: rectangles on a grid of 9 by 9, origin at the lower left.
+struct IconRect {
+    bool isDark;
+    double x, y, width, height;
+};
+
+struct Icon {
+    std::u16string_view name;
+    std::array<IconRect, 2> rects;
+};
+
+constexpr double kIconGrid = 9.0;
+
+constexpr std::array<Icon, 4> kIcons{{
+    {u"statusOn", {{{true, 0, 3, 9, 9}, {true, 0, 0, 9, 2}}}},
+    {u"statusOff", {{{true, 0, 2, 9, 9}, {true, 0, 2, 0, 0}}}},
+    {u"xyztOff", {{{true, 0, 0, 9, 9}, {false, 2, 3, 5, 4}}}},
+    {u"xyztOn", {{{true, 0, 2, 9, 7}, {false, 2, 5, 5, 2}}}},
+}};
+
+void paintIcon(QPainter& painter, const QRectF& rect, const Icon& icon) {
+    const QRectF grid(rect.center().x() - kIconGrid / 2.0, rect.center().y() - kIconGrid / 2.0,
+                      kIconGrid, kIconGrid);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (const IconRect& part : icon.rects) {
+        const QRectF place(grid.left() + part.x, grid.bottom() - part.y - part.height, part.width,
+                           part.height);
+        painter.fillRect(place & grid,
+                         QColor::fromRgbF(part.isDark ? 0.45F : 0.75F, part.isDark ? 0.45F : 0.75F,
+                                          part.isDark ? 0.45F : 0.75F));
+    }
+    painter.restore();
+}
+
+}  // namespace
+
+void paintImage(QPainter& painter, const QRectF& rect, std::u16string_view name,
+                const QColor& color) {
+    for (const TextImage& image : kTextImages) {
+        if (image.name == name) {
+            painter.setPen(color);
+            paintCentered(
+                painter, rect,
+                simpleTexTitle(image.tex, {.name = u"Lucida Grande", .size = image.size}));
+        }
+    }
+    for (const Icon& icon : kIcons) {
+        if (icon.name == name) {
+            paintIcon(painter, rect, icon);
+        }
+    }
+}
+
+void paintPadlock(QPainter& painter, const QRectF& rect, bool isOpen, const QColor& color) {
+    const QPointF center = rect.center();
+    const QRectF body(center.x() - 5.0, center.y() - 1.0, 10.0, 7.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(body, 1.5, 1.5);
+    QPainterPath shackle;
+    const double shift = isOpen ? 5.0 : 0.0;
+    const QRectF arch(center.x() - 3.0 + shift, center.y() - 6.5, 6.0, 6.0);
+    shackle.moveTo(arch.left(), body.top());
+    shackle.lineTo(arch.left(), arch.center().y());
+    shackle.arcTo(arch, 180.0, -180.0);
+    shackle.lineTo(arch.right(), isOpen ? arch.center().y() + 1.5 : body.top());
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(color, 1.6));
+    painter.drawPath(shackle);
+}
+
+}  // namespace talvex

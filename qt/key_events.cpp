@@ -1,0 +1,143 @@
+#include "qt/key_events.h"
+
+#include <xkbcommon/xkbcommon.h>
+
+#include <array>
+#include <utility>
+
+namespace talvex {
+namespace {
+
+constexpr std::array<std::pair<int, char16_t>, 15> kNamedKeys{{
+    {Qt::Key_Return, u'\r'},
+    {Qt::Key_Enter, u'\x03'},
+    {Qt::Key_Tab, u'\t'},
+    {Qt::Key_Backtab, u'\x19'},
+    {Qt::Key_Backspace, u'\x7F'},
+    {Qt::Key_Escape, u'\x1B'},
+    {Qt::Key_Delete, NSDeleteFunctionKey},
+    {Qt::Key_Up, NSUpArrowFunctionKey},
+    {Qt::Key_Down, NSDownArrowFunctionKey},
+    {Qt::Key_Left, NSLeftArrowFunctionKey},
+    {Qt::Key_Right, NSRightArrowFunctionKey},
+    {Qt::Key_PageUp, NSPageUpFunctionKey},
+    {Qt::Key_PageDown, NSPageDownFunctionKey},
+    {Qt::Key_Clear, NSClearLineFunctionKey},
+    {Qt::Key_Space, u' '},
+}};
+
+// Dead keys of which the table knows the accent as a key of its own.
+constexpr std::array<std::pair<std::uint32_t, char16_t>, 2> kDeadKeys{{
+    {XKB_KEY_dead_circumflex, u'^'},
+    {XKB_KEY_dead_tilde, u'~'},
+}};
+
+constexpr std::array<std::pair<int, std::uint32_t>, 5> kModifierKeys{{
+    {Qt::Key_Shift, NSShiftKeyMask},
+    {Qt::Key_Control, NSControlKeyMask},
+    {Qt::Key_Alt, NSAlternateKeyMask},
+    {Qt::Key_Meta, NSCommandKeyMask},
+    {Qt::Key_Super_L, NSCommandKeyMask},
+}};
+
+// Alt pressed while Shift is held has a keysym of its own, which the toolkit calls Meta.
+constexpr std::array<std::pair<std::uint32_t, std::uint32_t>, 2> kModifierKeysyms{{
+    {XKB_KEY_Meta_L, NSAlternateKeyMask},
+    {XKB_KEY_Meta_R, NSAlternateKeyMask},
+}};
+
+constexpr std::array<std::pair<Qt::KeyboardModifier, std::uint32_t>, 4> kModifierStates{{
+    {Qt::ShiftModifier, NSShiftKeyMask},
+    {Qt::ControlModifier, NSControlKeyMask},
+    {Qt::AltModifier, NSAlternateKeyMask},
+    {Qt::MetaModifier, NSCommandKeyMask},
+}};
+
+template <class Table, class Key>
+auto find(const Table& table, Key key) -> std::optional<decltype(table[0].second)> {
+    for (const auto& [candidate, value] : table) {
+        if (candidate == key) {
+            return value;
+        }
+    }
+    return std::nullopt;
+}
+
+constexpr char32_t kLastOfPlane0 = 0xFFFF;
+constexpr int kFirstSpecialKey = 0x01000000;
+
+bool isPrintable(char32_t character) {
+    return character > U' ' && character != 0x7F && character <= kLastOfPlane0;
+}
+
+// Events that a test makes have no keysym.
+std::optional<char16_t> characterWithoutKeysym(const QKeyEvent& event) {
+    const QString text = event.text();
+    if (!text.isEmpty() && isPrintable(text.front().unicode())) {
+        return text.front().unicode();
+    }
+    const int key = event.key();
+    const bool hasCharacter = key > 0 && key < kFirstSpecialKey && key <= 0xFFFF;
+    return hasCharacter ? std::optional(static_cast<char16_t>(key)) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<char16_t> characterOfKey(const QKeyEvent& event) {
+    if (const auto character = find(kNamedKeys, event.key())) {
+        return character;
+    }
+    if (const auto character = find(kDeadKeys, event.nativeVirtualKey())) {
+        return character;
+    }
+    if (event.nativeVirtualKey() == 0) {
+        return characterWithoutKeysym(event);
+    }
+    const char32_t character = xkb_keysym_to_utf32(event.nativeVirtualKey());
+    return isPrintable(character) ? std::optional(static_cast<char16_t>(character)) : std::nullopt;
+}
+
+bool HeldModifiers::take(const QKeyEvent& event) {
+    auto flag = find(kModifierKeysyms, event.nativeVirtualKey());
+    flag = flag ? flag : find(kModifierKeys, event.key());
+    if (!flag || event.isAutoRepeat()) {
+        return false;
+    }
+    const std::uint32_t before = flags();
+    const std::int64_t byFlag = -std::int64_t{*flag};
+    const std::int64_t scanCode = event.nativeScanCode();
+    if (event.type() == QEvent::KeyPress) {
+        held_[scanCode != 0 ? scanCode : byFlag] = *flag;
+    } else {
+        held_.erase(scanCode);
+        held_.erase(byFlag);
+    }
+    return flags() != before;
+}
+
+bool HeldModifiers::clear() {
+    const bool hadAny = !held_.empty();
+    held_.clear();
+    return hadAny;
+}
+
+bool HeldModifiers::adopt(Qt::KeyboardModifiers modifiers) {
+    const std::uint32_t before = flags();
+    held_.clear();
+    for (const auto& [state, flag] : kModifierStates) {
+        if (modifiers.testFlag(state)) {
+            held_[-std::int64_t{flag}] = flag;
+        }
+    }
+    return flags() != before;
+}
+
+std::uint32_t HeldModifiers::flags() const {
+    std::uint32_t flags = 0;
+    for (const auto& [key, flag] : held_) {
+        flags |= flag;
+    }
+    return flags;
+}
+
+}  // namespace talvex

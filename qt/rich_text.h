@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+
+#include "platform/NSAttributedString.h"
+
+namespace talvex {
+
+// Paints the text on one line in the middle of the rectangle, raised and lowered parts in their
+// places, smaller than its fonts say if it doesn't fit otherwise.
+void paintCentered(QPainter& painter, const QRectF& rect, const NSAttributedString& text);
+
+}  // namespace talvex

@@ -1,0 +1,43 @@
+#include "ui/DYXButton.h"
+
+#include "display/ascii_text.h"
+#include "platform/NSEvent.h"
+#include "ui/simple_tex.h"
+
+namespace talvex {
+namespace {
+
+constexpr std::uint32_t kEveryHighlight =
+    NSPushInCellMask | NSContentsCellMask | NSChangeGrayCellMask | NSChangeBackgroundCellMask;
+constexpr std::uint32_t kPushedAndColored = NSPushInCellMask | NSChangeBackgroundCellMask;
+
+}  // namespace
+
+ZUButton::ZUButton(const NSRect& frame) : NSButton(frame) { setHighlightsBy(kEveryHighlight); }
+
+ZUModifierButton::ZUModifierButton(const NSRect& frame) : NSButton(frame) {
+    setShowsStateBy(kPushedAndColored);
+    setHighlightsBy(kPushedAndColored);
+}
+
+DYXButton::DYXButton(const NSRect& frame, const std::u16string& title, LogPort& log)
+    : NSButton(frame), log_(log) {
+    setTitle(title);
+    setAttributedTitle(attributedStringFromSimpleTex(title));
+}
+
+NSAttributedString DYXButton::attributedStringFromSimpleTex(std::u16string_view text) const {
+    return simpleTexTitle(text, font());
+}
+
+void DYXButton::mouseDown() {
+    log_.NSLog(u"DYXButton: mouseDown : " + title() + u" : " +
+               asciiText(std::to_string(highlightsBy())));
+    NSButton::mouseDown();
+}
+
+bool DYXButton::performKeyEquivalent(const NSEvent& event) {
+    return event.type != NSKeyUp && NSButton::performKeyEquivalent(event);
+}
+
+}  // namespace talvex

@@ -1,0 +1,132 @@
+#include "ui/key_pad_table.h"
+
+#include <array>
+
+namespace talvex {
+namespace {
+
+using enum KeyGroup;
+using enum KeyClass;
+
+constexpr int kColumns = 10;
+constexpr int kRows = 6;
+
+// Functions on the left, the stack beside ENTER, digits and operators where the right hand lies.
+constexpr std::array<KeyRow, 59> kKeys{{
+    {u"modiARC ", u"INV", u"inverse of the next function", shift, 0, 0, 1, modifier},
+    {u"modiHYP ", u"HYP", u"hyperbolic form of the next function", shift, 1, 0, 1, modifier},
+    {u"memoRCL ", u"RCL", u"recall a register, or read a converted unit", memory, 2, 0, 1,
+     modifier},
+    {u"memoSTO ", u"STO", u"store X in a register", memory, 3, 0, 1, modifier},
+    {u"dataE-03", u"", u"exponent -3", digit, 4, 0},
+    {u"dataE-06", u"", u"exponent -6", digit, 5, 0},
+    {u"dataE-09", u"", u"exponent -9", digit, 6, 0},
+    {u"dataE+03", u"", u"exponent 3", digit, 7, 0},
+    {u"dataE+06", u"", u"exponent 6", digit, 8, 0},
+    {u"dataE+09", u"", u"exponent 9", digit, 9, 0},
+
+    {u"unitGSIN", u"sin", u"sine", function, 0, 1},
+    {u"unitGCOS", u"cos", u"cosine", function, 1, 1},
+    {u"unitGTAN", u"tan", u"tangent", function, 2, 1},
+    {u"memoSTO+", u"STO+", u"add X to a register", memory, 3, 1, 1, modifier},
+    {u"unitFACT", u"n!", u"factorial", function, 4, 1},
+    {u"dataCLR ", u"CLR", u"clear X", clear, 5, 1},
+    {u"dataCLRG", u"CLST", u"clear the stack", clear, 6, 1},
+    {u"dataCLAL", u"CLALL", u"clear the stack and all memory registers", clear, 7, 1},
+    {u"consPI  ", u"\u03C0", u"pi", digit, 8, 1},
+    {u"lock", u"", u"output mode independent of the input mode", shift, 9, 1, 1, lock},
+
+    {u"unitGCSC", u"csc", u"cosecant", function, 0, 2},
+    {u"unitGSEC", u"sec", u"secant", function, 1, 2},
+    {u"unitGCOT", u"cot", u"cotangent", function, 2, 2},
+    {u"memoSTO-", u"STO\u2212", u"subtract X from a register", memory, 3, 2, 1, modifier},
+    {u"stacLSTX", u"LASTx", u"last X", stack, 4, 2},
+    {u"dataBACK", u"\u232B", u"backspace", clear, 5, 2},
+    {u"dataN007", u"7", u"7", digit, 6, 2},
+    {u"dataN008", u"8", u"8", digit, 7, 2},
+    {u"dataN009", u"9", u"9", digit, 8, 2},
+    {u"bina/   ", u"\u00F7", u"divide Y by X", operation, 9, 2},
+
+    {u"unitSQR ", u"x^2", u"square", function, 0, 3},
+    {u"unitROOT", u"\u221Ax", u"square root", function, 1, 3},
+    {u"unitINV ", u"1/x", u"reciprocal", function, 2, 3},
+    {u"memoSTO*", u"STO\u00D7", u"multiply a register by X", memory, 3, 3, 1, modifier},
+    {u"stacROLU", u"R\u2191", u"roll the stack up", stack, 4, 3},
+    {u"dataEEX ", u"EEX", u"enter exponent", digit, 5, 3},
+    {u"dataN004", u"4", u"4", digit, 6, 3},
+    {u"dataN005", u"5", u"5", digit, 7, 3},
+    {u"dataN006", u"6", u"6", digit, 8, 3},
+    {u"bina*   ", u"\u00D7", u"multiply Y by X", operation, 9, 3},
+
+    {u"unitEXP ", u"e^x", u"e to the power X", function, 0, 4},
+    {u"unitNLOG", u"ln", u"natural logarithm", function, 1, 4},
+    {u"unitABS ", u"|x|", u"absolute value", function, 2, 4},
+    {u"memoSTO/", u"STO\u00F7", u"divide a register by X", memory, 3, 4, 1, modifier},
+    {u"stacROLD", u"R\u2193", u"roll the stack down", stack, 4, 4},
+    {u"dataENT ", u"ENTER", u"enter", enter, 5, 4, 2},
+    {u"dataN001", u"1", u"1", digit, 6, 4},
+    {u"dataN002", u"2", u"2", digit, 7, 4},
+    {u"dataN003", u"3", u"3", digit, 8, 4},
+    {u"bina-   ", u"\u2212", u"subtract X from Y", operation, 9, 4},
+
+    {u"unit10^X", u"10^x", u"10 to the power X", function, 0, 5},
+    {u"unitLG10", u"log", u"decimal logarithm", function, 1, 5},
+    {u"bina^   ", u"", u"power", function, 2, 5},
+    {u"bina~   ", u"", u"logarithm to a base", function, 3, 5},
+    {u"stacX<>Y", u"x\u21C4y", u"exchange X and Y", stack, 4, 5},
+    {u"dataN000", u"0", u"0", digit, 6, 5},
+    {u"data.   ", u"", u"decimal point", digit, 7, 5},
+    {u"dataCHS ", u"+/\u2212", u"change sign", digit, 8, 5},
+    {u"bina+   ", u"+", u"add X to Y", operation, 9, 5},
+}};
+
+// Whether the keys fill the grid with no gap and no overlap.
+consteval bool fillsTheGrid() {
+    std::array<int, kColumns * kRows> uses{};
+    for (const KeyRow& key : kKeys) {
+        for (int row = key.row; row < key.row + key.rowSpan; ++row) {
+            ++uses.at(static_cast<std::size_t>(row * kColumns + key.column));
+        }
+    }
+    for (const int use : uses) {
+        if (use != 1) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(fillsTheGrid());
+
+constexpr std::array<HexKeyRow, 6> kHexKeys{{
+    {u"dataN00A", u"A", u"A", u"dataE-03", u"exponent -3", u"EEX-3Small", u"EEX-3Pressed"},
+    {u"dataN00B", u"B", u"B", u"dataE-06", u"exponent -6", u"EEX-6Small", u"EEX-6Pressed"},
+    {u"dataN00C", u"C", u"C", u"dataE-09", u"exponent -9", u"EEX-9Small", u"EEX-9Pressed"},
+    {u"dataN00D", u"D", u"D", u"dataE+03", u"exponent 3", u"EEX+3Small", u"EEX+3Pressed"},
+    {u"dataN00E", u"E", u"E", u"dataE+06", u"exponent 6", u"EEX+6Small", u"EEX+6Pressed"},
+    {u"dataN00F", u"F", u"F", u"dataE+09", u"exponent 9", u"EEX+9Small", u"EEX+9Pressed"},
+}};
+
+constexpr double kKeyWidth = 36.0;
+constexpr double kKeyHeight = 23.0;
+constexpr double kGap = 3.0;
+constexpr double kLeft = 7.0;
+constexpr double kBottom = 8.0;
+// A little more room between the functions and the number keys.
+constexpr int kFirstNumberColumn = 5;
+constexpr double kGroupGap = 3.0;
+
+}  // namespace
+
+std::span<const KeyRow> keyPadRows() { return kKeys; }
+std::span<const HexKeyRow> hexKeyRows() { return kHexKeys; }
+
+NSRect keyFrame(const KeyRow& key) {
+    const int rowsBelow = kRows - key.row - key.rowSpan;
+    return {.x = kLeft + key.column * (kKeyWidth + kGap) +
+                 (key.column >= kFirstNumberColumn ? kGroupGap : 0.0),
+            .y = kBottom + rowsBelow * (kKeyHeight + kGap),
+            .width = kKeyWidth,
+            .height = key.rowSpan * (kKeyHeight + kGap) - kGap};
+}
+
+}  // namespace talvex

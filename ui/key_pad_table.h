@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "platform/NSGeometry.h"
+#include "ui/DYXButton.h"
+
+namespace talvex {
+
+enum class KeyClass { key, modifier, lock };
+
+// Everything about a key of the key pad. Rows and columns count from the top left.
+struct KeyRow {
+    std::u16string_view command;  // in string form
+    std::u16string_view title;    // simple TeX; empty where an image stands in its place
+    std::u16string_view hint;     // what the key does, in words
+    KeyGroup group;
+    std::uint8_t column;
+    std::uint8_t row;
+    std::uint8_t rowSpan = 1;
+    KeyClass keyClass = KeyClass::key;
+};
+
+[[nodiscard]] std::span<const KeyRow> keyPadRows();
+
+// The place of a key within the key pad, in points.
+[[nodiscard]] NSRect keyFrame(const KeyRow& key);
+
+// What the six keys on the top right do, which carry the letters of HEX input or exponents.
+struct HexKeyRow {
+    std::u16string_view hexCommand;
+    std::u16string_view hexTitle;
+    std::u16string_view hexHint;
+    std::u16string_view command;
+    std::u16string_view hint;
+    std::u16string_view image;
+    std::u16string_view alternateImage;
+};
+
+[[nodiscard]] std::span<const HexKeyRow> hexKeyRows();
+
+}  // namespace talvex

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/NSAttributedString.h"
+
+// Simple TeX, the mark-up of key titles and status texts: "^" and "_" raise and lower the next
+// character, or a group in braces, in a smaller font.
+namespace talvex {
+
+// The form of key titles: centred, in the font of the key; a backslash is an ordinary character.
+NSAttributedString simpleTexTitle(std::u16string_view text, const NSFont& font);
+
+namespace ZUStringExtensions {
+
+// The form of status texts: left, in the small font of tool tips. A backslash protects the next
+// character, and "\n" gives two blanks. A text without "^" ends in a small raised blank, so that
+// all status texts are of one height.
+NSAttributedString simpleTexSingleLine(std::u16string_view text);
+
+}  // namespace ZUStringExtensions
+
+}  // namespace talvex

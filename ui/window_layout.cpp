@@ -1,0 +1,45 @@
+#include "ui/window_layout.h"
+
+namespace talvex {
+namespace {
+
+constexpr double kDisplayMargin = 5.0;
+constexpr double kDisplayHeight = 41.0;
+constexpr double kDisplayTopMargin = 2.0;
+
+}  // namespace
+
+NSRect contentFrame(const WindowLayout& layout) {
+    const bool showsFourLines = layout.displayViewMode == 1;
+    if (layout.keyPadHidden) {
+        return {.width = 274, .height = showsFourLines ? 105.0 : 45.0};
+    }
+    const double height = showsFourLines ? 271.0 : 211.0;
+    return {.width = 404, .height = layout.showStatusLine ? height + 17.0 : height};
+}
+
+NSRect statusLineFieldRect() { return {5, -21, 393, 22}; }
+NSRect labelFieldRect() { return {4, 17, 12, 17}; }
+NSRect mantissaSignFieldRect() { return {18, 20, 19, 17}; }
+NSRect mantissaFieldRect() { return {31, 20, 319, 17}; }
+NSRect exponentSignFieldRect() { return {341, 20, 19, 17}; }
+NSRect exponentFieldRect() { return {353, 20, 37, 17}; }
+NSRect statusFieldRect() { return {181, 1, 207, 13}; }
+NSRect outputModePopUpRect() { return {128, 1, 44, 15}; }
+NSRect inputModePopUpRect() { return {71, 1, 44, 15}; }
+NSRect angleModePopUpRect() { return {14, 1, 40, 15}; }
+
+NSRect displayViewRect() {
+    const NSRect content = contentFrame({});
+    return {.x = kDisplayMargin,
+            .y = content.height - kDisplayHeight - kDisplayTopMargin,
+            .width = content.width - 2.0 * kDisplayMargin,
+            .height = kDisplayHeight};
+}
+
+NSRect keyPadViewRect() {
+    const NSRect content = contentFrame({});
+    return {.width = content.width, .height = displayViewRect().y - kDisplayTopMargin};
+}
+
+}  // namespace talvex

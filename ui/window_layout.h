@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/NSGeometry.h"
+
+// Where things stand in the calculator window, in points.
+namespace talvex {
+
+// The three switches that choose one of six layouts.
+struct WindowLayout {
+    bool keyPadHidden = false;
+    std::int32_t displayViewMode = 0;  // 0 the X line alone, 1 all four lines
+    bool showStatusLine = false;
+};
+
+// The content rectangle of a layout, origin 0, 0.
+[[nodiscard]] NSRect contentFrame(const WindowLayout& layout);
+
+// The places of the display's parts within it, and of the status line below the key pad.
+[[nodiscard]] NSRect statusLineFieldRect();
+[[nodiscard]] NSRect labelFieldRect();
+[[nodiscard]] NSRect mantissaSignFieldRect();
+[[nodiscard]] NSRect mantissaFieldRect();
+[[nodiscard]] NSRect exponentSignFieldRect();
+[[nodiscard]] NSRect exponentFieldRect();
+[[nodiscard]] NSRect statusFieldRect();
+[[nodiscard]] NSRect outputModePopUpRect();
+[[nodiscard]] NSRect inputModePopUpRect();
+[[nodiscard]] NSRect angleModePopUpRect();
+
+// The places of the display and of the key pad in the layout that the window starts with.
+[[nodiscard]] NSRect displayViewRect();
+[[nodiscard]] NSRect keyPadViewRect();
+
+}  // namespace talvex
