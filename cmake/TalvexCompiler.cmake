@@ -19,11 +19,6 @@ target_compile_options(talvex_compiler INTERFACE
     # The same bits everywhere: no fused multiply-add, and no rewriting of pow(2, x) into exp2(x).
     -ffp-contract=off -fno-builtin-pow)
 
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # Debian 12's own string header trips this one at -O2.
-    target_compile_options(talvex_compiler INTERFACE -Wno-restrict)
-endif()
-
 if(TALVEX_SANITIZE)
     set(talvex_sanitizers
         -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all

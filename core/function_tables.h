@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <variant>
 
 #include "numeric/DYXMathContext.h"
 
@@ -16,11 +17,17 @@ struct FunctionRow {
     using Checked = double (*)(const DYXMathContext&, Operands...);
 
     std::uint32_t action = 0;
-    Plain plain = nullptr;
-    Checked checked = nullptr;
+    std::variant<std::monostate, Plain, Checked> function = {};
 
+    [[nodiscard]] bool hasFunction() const {
+        return !std::holds_alternative<std::monostate>(function);
+    }
+    // The row has a function.
     [[nodiscard]] double operator()(const DYXMathContext& context, Operands... operands) const {
-        return plain != nullptr ? plain(operands...) : checked(context, operands...);
+        if (const Plain* plain = std::get_if<Plain>(&function)) {
+            return (*plain)(operands...);
+        }
+        return std::get<Checked>(function)(context, operands...);
     }
 };
 
@@ -45,7 +52,7 @@ struct ConstantRow {
 template <class Row>
 [[nodiscard]] const Row* findFunction(std::span<const Row> table, std::uint32_t action) {
     for (const Row& row : table) {
-        if (row.action == action && (row.plain != nullptr || row.checked != nullptr)) {
+        if (row.action == action && row.hasFunction()) {
             return &row;
         }
     }

@@ -17,15 +17,4 @@ consteval bool hasUniqueActions(const Table& table) {
     return true;
 }
 
-// Whether no row has both of its function slots filled.
-template <class Table>
-consteval bool hasOneFunctionEach(const Table& table) {
-    for (const auto& row : table) {
-        if (row.plain != nullptr && row.checked != nullptr) {
-            return false;
-        }
-    }
-    return true;
-}
-
 }  // namespace talvex

@@ -87,6 +87,7 @@ class DYXInputDisplay final : public DYXOutputDisplay {
 
   private:
     struct Rules;
+    struct RuleTables;
     static const Rules& rulesOf(std::int32_t mode);
 
     // Edits, in entry_editing.cpp.

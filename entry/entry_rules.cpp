@@ -12,7 +12,7 @@ constexpr std::string_view kBinaryDigits = "01";
 
 }  // namespace
 
-const DYXInputDisplay::Rules& DYXInputDisplay::rulesOf(std::int32_t mode) {
+struct DYXInputDisplay::RuleTables {
     using Line = DYXInputDisplay;
     static constexpr Rules kScientific{kDecimalDigits,
                                        true,
@@ -117,7 +117,11 @@ const DYXInputDisplay::Rules& DYXInputDisplay::rulesOf(std::int32_t mode) {
     static constexpr std::array<const Rules*, mode::count> kRules{
         &kScientific, &kScientific,  &kScientific, &kMonetary, &kFraction, &kCarpentry, &kHours,
         &kDegrees,    &kHexadecimal, &kDecimal,    &kOctal,    &kBinary,   &kScientific};
-    return isDisplayMode(mode) ? *kRules.at(static_cast<std::size_t>(mode)) : kUnknown;
+};
+
+const DYXInputDisplay::Rules& DYXInputDisplay::rulesOf(std::int32_t mode) {
+    return isDisplayMode(mode) ? *RuleTables::kRules.at(static_cast<std::size_t>(mode))
+                               : RuleTables::kUnknown;
 }
 
 bool DYXInputDisplay::canSetToCharacter(char character) const {

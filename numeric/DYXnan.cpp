@@ -32,7 +32,8 @@ constexpr std::array<ErrorText, 12> kErrorTexts{{
 
 std::u16string patternText(std::uint64_t pattern) {
     std::array<char, 16> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), pattern, 16).ptr;
+    const auto* const end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), pattern, 16).ptr;
     std::u16string text = u"NaN (";
     for (const char* digit = digits.data(); digit != end; ++digit) {
         const bool isLetter = *digit >= 'a';
@@ -44,16 +45,16 @@ std::u16string patternText(std::uint64_t pattern) {
 }  // namespace
 
 double DYXnan(char code) {
-    const auto signExtended = static_cast<std::int32_t>(static_cast<signed char>(code));
-    const auto pattern = std::bit_cast<std::uint64_t>(std::nan(""));
-    return std::bit_cast<double>(pattern | static_cast<std::uint32_t>(signExtended));
+    const auto byte = static_cast<std::uint32_t>(static_cast<unsigned char>(code));
+    const std::uint32_t signExtended = byte < 0x80U ? byte : byte | 0xFFFFFF00U;
+    return std::bit_cast<double>(std::bit_cast<std::uint64_t>(std::nan("")) | signExtended);
 }
 
 std::u16string DYXnanString(double value) {
     const auto pattern = std::bit_cast<std::uint64_t>(value);
     const auto lowWord = static_cast<std::uint32_t>(pattern);
     for (const ErrorText& row : kErrorTexts) {
-        if (lowWord == static_cast<std::uint32_t>(row.code)) {
+        if (lowWord == static_cast<unsigned char>(row.code)) {
             return std::u16string(row.text);
         }
     }

@@ -57,7 +57,11 @@ double divf(double x, double y) {
     if (divisor == 0) {
         return DYXnan('?');
     }
-    return quotientOverflows(dividend, divisor) ? DYXnan('O') : dividend / divisor;
+    if (quotientOverflows(dividend, divisor)) {
+        return DYXnan('O');
+    }
+    const std::int32_t quotient = dividend / divisor;
+    return quotient;
 }
 
 double rem(double x, double y) {

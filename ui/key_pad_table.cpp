@@ -1,5 +1,6 @@
 #include "ui/key_pad_table.h"
 
+#include <algorithm>
 #include <array>
 
 namespace talvex {
@@ -82,18 +83,15 @@ constexpr std::array<KeyRow, 59> kKeys{{
 
 // Whether the keys fill the grid with no gap and no overlap.
 consteval bool fillsTheGrid() {
-    std::array<int, kColumns * kRows> uses{};
+    std::array<std::array<int, kColumns>, kRows> uses{};
     for (const KeyRow& key : kKeys) {
-        for (int row = key.row; row < key.row + key.rowSpan; ++row) {
-            ++uses.at(static_cast<std::size_t>(row * kColumns + key.column));
+        for (unsigned row = key.row; row < 0U + key.row + key.rowSpan; ++row) {
+            ++uses.at(row).at(key.column);
         }
     }
-    for (const int use : uses) {
-        if (use != 1) {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(uses.begin(), uses.end(), [](const auto& row) {
+        return std::all_of(row.begin(), row.end(), [](int use) { return use == 1; });
+    });
 }
 static_assert(fillsTheGrid());
 

@@ -1,0 +1,140 @@
+// Any series of commands, keys, clicks and choices leaves a calculator that still holds together.
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstdlib>
+#include <span>
+
+#include "core/function_tables.h"
+#include "platform/HeadlessPlatform.h"
+#include "platform/NSEvent.h"
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+namespace {
+
+void require(bool condition) {
+    if (!condition) {
+        std::abort();
+    }
+}
+
+// Takes the input apart; zeros follow its end.
+class Bytes {
+  public:
+    explicit Bytes(std::span<const std::uint8_t> data) : data_(data) {}
+
+    [[nodiscard]] bool isAtEnd() const { return data_.empty(); }
+
+    template <class Number>
+    Number take() {
+        std::array<std::uint8_t, sizeof(Number)> bytes{};
+        for (std::uint8_t& byte : bytes) {
+            byte = isAtEnd() ? 0 : data_.front();
+            data_ = data_.subspan(isAtEnd() ? 0 : 1);
+        }
+        return std::bit_cast<Number>(bytes);
+    }
+
+  private:
+    std::span<const std::uint8_t> data_;
+};
+
+void checkInvariants(DYXWindowController& calculator) {
+    constexpr std::size_t kLongestText = 2200;
+    const auto state = static_cast<int>(calculator.inputState());
+    require(state >= 0 && state <= 2);
+    require(calculator.store() >= 0 && calculator.store() <= 5);
+    const DYXInputDisplay& entry = calculator.xDisplay();
+    require(entry.length() >= 0 && entry.length() <= 32);
+    require(entry.exp() <= 0 && entry.frc() <= 0);
+    for (const DYXOutputDisplay* line :
+         {static_cast<const DYXOutputDisplay*>(&entry),
+          static_cast<const DYXOutputDisplay*>(&calculator.yDisplay())}) {
+        require(line->mantissaField()->stringValue().size() <= kLongestText);
+        require(line->exponentField()->stringValue().size() <= 3);
+    }
+}
+
+// A command that does something more often than four random letters do.
+Comand likelyCommand(Bytes& bytes) {
+    const auto keys = keyPadRows();
+    const auto hotKeys = hotKeyRows();
+    const std::size_t choice = bytes.take<std::uint16_t>() % (keys.size() + hotKeys.size());
+    return choice < keys.size() ? commandFromString(keys[choice].command)
+                                : hotKeys[choice - keys.size()].command;
+}
+
+std::u16string randomText(Bytes& bytes) {
+    std::u16string text(bytes.take<std::uint8_t>() % 14, u' ');
+    for (char16_t& character : text) {
+        character = bytes.take<char16_t>();
+    }
+    return text;
+}
+
+void act(DYXWindowController& calculator, Bytes& bytes) {
+    switch (bytes.take<std::uint8_t>() % 16) {
+        case 0:
+            calculator.doCommand({bytes.take<std::uint32_t>(), bytes.take<std::uint32_t>(),
+                                  bytes.take<std::uint32_t>()});
+            break;
+        case 1:
+            calculator.doCommand(commandFromString(randomText(bytes)));
+            break;
+        case 2:
+            calculator.flagsChanged(
+                {.type = NSFlagsChanged, .modifierFlags = bytes.take<std::uint32_t>()});
+            break;
+        case 3:
+            calculator.takeInputModeFrom(
+                NSMenuItem{.title = {}, .tag = bytes.take<std::int8_t>() % 15, .action = {}});
+            break;
+        case 4:
+            calculator.takeOutputModeFrom(
+                NSMenuItem{.title = {}, .tag = bytes.take<std::int32_t>(), .action = {}});
+            break;
+        case 5:
+            calculator.views().keyPad.lockButton().performClick();
+            break;
+        case 6:
+            calculator.takeAngleModeFrom(
+                NSMenuItem{.title = {}, .tag = bytes.take<std::int32_t>(), .action = {}});
+            break;
+        case 7:
+            calculator.stack().x() = bytes.take<double>();
+            break;
+        case 8:
+            calculator.xDisplay().setDigits(bytes.take<std::uint32_t>());
+            calculator.syncDisplays();
+            break;
+        case 9:
+        case 10:
+            calculator.keyDown(
+                {.type = NSKeyDown, .charactersIgnoringModifiers = {bytes.take<char16_t>()}});
+            break;
+        case 11:
+        case 12: {
+            const auto& buttons = calculator.views().keyPad.buttons();
+            buttons[bytes.take<std::uint8_t>() % buttons.size()]->performClick();
+            break;
+        }
+        default:
+            calculator.doCommand(likelyCommand(bytes));
+    }
+}
+
+}  // namespace
+}  // namespace talvex
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    talvex::HeadlessPlatform platform;
+    talvex::DYXWindowController calculator(platform);
+    talvex::Bytes bytes({data, size});
+    while (!bytes.isAtEnd()) {
+        talvex::act(calculator, bytes);
+        talvex::checkInvariants(calculator);
+    }
+    return 0;
+}
