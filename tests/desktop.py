@@ -1,0 +1,85 @@
+"""A virtual desktop for tests and benchmarks of the real program: an X server, a window manager,
+real key and mouse events, the screen's pixels and the sound of its bell."""
+import contextlib
+import ctypes
+import os
+import subprocess
+import time
+
+BELL_NOTIFY = 8
+USE_CORE_KEYBOARD = 0x100
+Z_PIXMAP = 2
+
+
+def wait_until(question, what, seconds=10.0, pause=0.02):
+    """Asks until the answer is true, and returns it; fails with `what` was waited for."""
+    end = time.monotonic() + seconds
+    while True:
+        answer = question()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise AssertionError(f"waited in vain for {what}")
+        time.sleep(pause)
+
+
+class Screen:
+    """A connection of our own to the X server."""
+
+    def __init__(self, name):
+        self.x11 = ctypes.CDLL("libX11.so.6")
+        self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        self.x11.XGetImage.restype = ctypes.c_void_p
+        self.x11.XGetPixel.restype = ctypes.c_ulong
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(name.encode()))
+        self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
+        numbers = [ctypes.c_int() for _ in range(5)]
+        self.x11.XkbQueryExtension(self.display, *[ctypes.byref(number) for number in numbers])
+        mask = ctypes.c_ulong(1 << BELL_NOTIFY)
+        self.x11.XkbSelectEvents(self.display, USE_CORE_KEYBOARD, mask, mask)
+
+    def bells(self):
+        """How often the bell has rung since the last question."""
+        count = 0
+        self.x11.XSync(self.display, 0)
+        event = (ctypes.c_char * 256)()
+        while self.x11.XPending(self.display):
+            self.x11.XNextEvent(self.display, event)
+            count += 1
+        return count
+
+    def pixel(self, x, y):
+        image = ctypes.c_void_p(self.x11.XGetImage(
+            self.display, self.root, x, y, 1, 1, ctypes.c_ulong(0xFFFFFF), Z_PIXMAP))
+        value = self.x11.XGetPixel(image, 0, 0) & 0xFFFFFF
+        self.x11.XFree(image)
+        return value
+
+
+@contextlib.contextmanager
+def running(command, **options):
+    """A program that is ended when the block ends."""
+    process = subprocess.Popen(command, **options)
+    try:
+        yield process
+    finally:
+        process.terminate()
+        process.wait()
+
+
+@contextlib.contextmanager
+def desktop(size="1280x1024x24"):
+    """An X server with a window manager; DISPLAY leads to it."""
+    reader, writer = os.pipe()
+    server = ["Xvfb", "-displayfd", str(writer), "-screen", "0", size, "-nolisten", "tcp", "-noreset"]
+    with running(server, pass_fds=[writer], stderr=subprocess.DEVNULL):
+        os.close(writer)
+        with os.fdopen(reader) as numbers:
+            os.environ["DISPLAY"] = ":" + numbers.readline().strip()
+        with running(["openbox"], stderr=subprocess.DEVNULL):
+            yield Screen(os.environ["DISPLAY"])
+
+
+def xdotool(*arguments):
+    subprocess.run(["xdotool", *map(str, arguments)], check=True)

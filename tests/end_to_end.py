@@ -1,0 +1,163 @@
+#!/usr/bin/python3
+"""Drives the real program on a virtual desktop with real keys and clicks, and reads its display as
+a screen reader does. Usage: end_to_end.py PROGRAM, within a D-Bus session of its own."""
+import os
+import subprocess
+import sys
+import unittest
+
+import gi
+
+from desktop import desktop, running, wait_until, xdotool
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402  the version comes first
+
+PROGRAM = sys.argv.pop()
+BUTTON_ROLES = ("push button", "check box", "toggle button")
+THIN = "\u2009"
+CARET_ON_A_GERMAN_KEYBOARD = 49  # a dead key
+
+
+class Calculator:
+    def __init__(self):
+        self.application = wait_until(self._find_application, "the program to show up")
+        self.application.set_cache_mask(Atspi.Cache.NONE)
+        wait_until(lambda: self.find("X: "), "the display")
+
+    @staticmethod
+    def _find_application():
+        root = Atspi.get_desktop(0)
+        for index in range(root.get_child_count()):
+            child = root.get_child_at_index(index)
+            if child and child.get_name() == "talvex":
+                return child
+        return None
+
+    def _walk(self, node):
+        yield node
+        for index in range(node.get_child_count()):
+            child = node.get_child_at_index(index)
+            if child:
+                yield from self._walk(child)
+
+    def find(self, start, role=None):
+        for node in self._walk(self.application):
+            is_named = node.get_name().startswith(start)
+            if is_named and (role is None or node.get_role_name() == role):
+                return node
+        return None
+
+    def key(self, name):
+        for node in self._walk(self.application):
+            if node.get_name() == name and node.get_role_name() in BUTTON_ROLES:
+                return node
+        raise AssertionError(f"no key {name}")
+
+    def line(self, label):
+        return self.find(label + ": ").get_name()
+
+    def is_lit(self, name):
+        key = self.key(name)
+        return key.get_state_set().contains(Atspi.StateType.CHECKED)
+
+    def click(self, *names):
+        for name in names:
+            box = self.key(name).get_extents(Atspi.CoordType.SCREEN)
+            xdotool("mousemove", box.x + box.width // 2, box.y + box.height // 2, "click", 1)
+
+
+class EndToEnd(unittest.TestCase):
+    def setUp(self):
+        self.calculator = Calculator()
+        xdotool("search", "--sync", "--onlyvisible", "--class", "talvex", "windowfocus")
+        xdotool("key", "Delete")
+        self.expect_x("0.000" + THIN + "0")
+        SCREEN.bells()
+
+    def expect_x(self, text):
+        wait_until(lambda: self.calculator.line("X") == "X: " + text,
+                   f"X to be {text!r}, it is {self.calculator.line('X')!r}")
+
+    def choose_input_mode(self, number):
+        self.calculator.click("input mode")
+        windows = ["xdotool", "search", "--onlyvisible", "--class", "talvex"]
+        wait_until(lambda: len(subprocess.check_output(windows).split()) == 2, "the menu")
+        xdotool("key", *["Down"] * (number + 1), "Return")
+
+    def test_typed_keys_add(self):
+        xdotool("key", "1", "2", "Return", "3", "plus")
+        self.expect_x("15.000" + THIN + "0")
+
+    def test_clicked_keys_add(self):
+        self.calculator.click("1", "2", "enter", "3", "add X to Y")
+        self.expect_x("15.000" + THIN + "0")
+
+    def test_a_clicked_shift_key_reaches_a_typed_function(self):
+        xdotool("key", "1")
+        self.calculator.click("inverse of the next function")
+        wait_until(lambda: self.calculator.is_lit("inverse of the next function"), "INV to light")
+        xdotool("key", "s")
+        self.expect_x("1.570" + THIN + "8")
+        self.calculator.click("clear X")
+        wait_until(lambda: not self.calculator.is_lit("inverse of the next function"),
+                   "INV to go out")
+
+    def test_control_makes_functions_hyperbolic_while_it_is_held(self):
+        xdotool("key", "1", "ctrl+s")
+        self.expect_x("1.175" + THIN + "2")
+        self.assertFalse(self.calculator.is_lit("hyperbolic form of the next function"))
+
+    def test_a_refused_key_sounds_and_changes_nothing(self):
+        xdotool("key", "7")
+        self.expect_x("7")
+        self.assertEqual(SCREEN.bells(), 0)
+        self.choose_input_mode(10)
+        self.expect_x("7 oct")
+        xdotool("key", "9")
+        wait_until(SCREEN.bells, "the bell")
+        self.expect_x("7 oct")
+        self.choose_input_mode(0)
+        self.expect_x("7")
+
+    def test_a_modifier_key_held_while_the_focus_goes_leaves_nothing_lit(self):
+        with running(["xev"], stdout=subprocess.DEVNULL):
+            xdotool("search", "--sync", "--name", "Event Tester")
+            xdotool("search", "--sync", "--onlyvisible", "--class", "talvex", "windowfocus")
+            xdotool("keydown", "shift")
+            wait_until(lambda: self.calculator.is_lit("inverse of the next function"),
+                       "INV to light")
+            xdotool("search", "--name", "Event Tester", "windowfocus")
+            wait_until(lambda: not self.calculator.is_lit("inverse of the next function"),
+                       "INV to go out")
+            xdotool("keyup", "shift")
+            xdotool("search", "--onlyvisible", "--class", "talvex", "windowfocus")
+        xdotool("key", "2")
+        self.expect_x("2")
+        self.assertFalse(self.calculator.is_lit("inverse of the next function"))
+
+    def test_a_dead_key_of_another_layout_is_a_key(self):
+        subprocess.run(["setxkbmap", "de"], check=True)
+        try:
+            xdotool("key", "2", "Return", "1", "0")
+            xdotool("key", CARET_ON_A_GERMAN_KEYBOARD)
+            self.expect_x("1,024.000" + THIN + "0")
+        finally:
+            subprocess.run(["setxkbmap", "us"], check=True)
+
+    def test_four_lines_show_the_stack(self):
+        self.calculator.click("show the registers Y, Z and T")
+        xdotool("key", "4", "Return", "5", "Return", "6", "Return", "7")
+        wait_until(lambda: self.calculator.line("T") == "T: 4.000" + THIN + "0", "4 in T")
+        self.expect_x("7")
+        self.calculator.click("show the registers Y, Z and T")
+
+
+if __name__ == "__main__":
+    os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+    os.environ["LC_ALL"] = "C.UTF-8"
+    os.environ.pop("QT_QPA_PLATFORM", None)
+    with desktop() as SCREEN, \
+            running(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"]), \
+            running([PROGRAM]):
+        unittest.main()
