@@ -33,6 +33,8 @@ void NSView::setFrame(const NSRect& frame) {
     }
     for (const auto& view : subviews_) {
         view->resizeWithOldSuperviewSize(oldSize, newSize);
+        // Whoever draws from the top has to move it even if it stays where it is from the bottom.
+        view->setNeedsDisplay();
     }
 }
 

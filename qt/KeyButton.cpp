@@ -11,12 +11,22 @@ namespace talvex {
 namespace {
 
 constexpr double kRadius = 4.0;
-constexpr double kTextMargin = 2.0;
+constexpr double kTextMargin = 3.0;
 
-// Words are set smaller than signs, so that all words of the key pad have one size.
-constexpr qsizetype kLongestSign = 3;
-constexpr double kWordSize = 9.0;
-constexpr double kNumberSize = 13.0;
+// Words are set smaller than formulas, and single signs larger.
+constexpr double kLongWordSize = 9.0;
+constexpr double kWordSize = 10.0;
+constexpr double kSignSize = 13.0;
+
+double titleSize(const std::u16string& title, KeyGroup group, double formulaSize) {
+    const bool isWord = title.size() > 2 && title[0] >= u'A' && title[1] >= u'A' &&
+                        title[0] <= u'Z' && title[1] <= u'Z';
+    if (isWord) {
+        return title.size() > 3 ? kLongWordSize : kWordSize;
+    }
+    const bool isSign = group == KeyGroup::digit || group == KeyGroup::operation;
+    return isSign && title.size() == 1 ? kSignSize : formulaSize;
+}
 
 }  // namespace
 
@@ -74,10 +84,7 @@ void KeyButton::paintTitle(QPainter& painter, const QRectF& rect, const QColor& 
         return;
     }
     NSFont font = record_.font();
-    const bool isWord = toQString(record_.title()).size() > kLongestSign &&
-                        record_.title().find(u'^') == std::u16string::npos;
-    const bool isNumber = group_ == KeyGroup::digit || group_ == KeyGroup::operation;
-    font.size = isWord ? kWordSize : isNumber ? kNumberSize : font.size;
+    font.size = titleSize(record_.title(), group_, font.size);
     painter.setPen(color);
     paintCentered(painter, rect, simpleTexTitle(record_.title(), font));
 }

@@ -10,16 +10,17 @@ namespace {
 constexpr int kPadding = 2;
 constexpr int kSmallestText = 7;
 
+// Text hangs from the top of its field, which brings labels and numbers onto one baseline.
 Qt::Alignment alignmentOf(NSTextAlignment alignment) {
     switch (alignment) {
         case NSTextAlignment::right:
-            return Qt::AlignRight | Qt::AlignVCenter;
+            return Qt::AlignRight | Qt::AlignTop;
         case NSTextAlignment::center:
-            return Qt::AlignCenter;
+            return Qt::AlignHCenter | Qt::AlignTop;
         case NSTextAlignment::left:
             break;
     }
-    return Qt::AlignLeft | Qt::AlignVCenter;
+    return Qt::AlignLeft | Qt::AlignTop;
 }
 
 // The field's font, smaller if the text doesn't fit otherwise: no digit may be cut off.
@@ -37,12 +38,12 @@ QString shownText(const NSTextField& field, bool isSign) {
     return isSign && text == QLatin1String("-") ? QString(QChar(0x2212)) : text;
 }
 
-void paintText(QPainter& painter, const QRect& rect, const NSTextField& field,
-               const QString& text) {
+void paintText(QPainter& painter, const QRect& rect, const NSTextField& field, const QString& text,
+               int padding = kPadding) {
     if (text.isEmpty() || field.isHidden()) {
         return;
     }
-    const QRect inside = rect.adjusted(kPadding, 0, -kPadding, 0);
+    const QRect inside = rect.adjusted(padding, 0, -padding, 0);
     painter.setFont(fittingFont(field, text, inside.width()));
     painter.setPen(toQColor(field.textColor()));
     painter.drawText(inside, static_cast<int>(alignmentOf(field.alignment())) | Qt::TextSingleLine,
@@ -116,7 +117,9 @@ void LineWidget::paintEvent(QPaintEvent* /*event*/) {
         place.y -= row.y;
         const bool isSign =
             slot == line_.mantissaSignField().get() || slot == line_.exponentSignField().get();
-        paintText(painter, toQRect(place, row.height), *slot, shownText(*slot, isSign));
+        const bool isLabel = slot == line_.labelField().get();
+        paintText(painter, toQRect(place, row.height), *slot, shownText(*slot, isSign),
+                  isLabel ? 0 : kPadding);
     }
 }
 

@@ -55,7 +55,9 @@ void PopUpWidget::paintEvent(QPaintEvent* /*event*/) {
     }
     painter.setFont(toQFont(record_.font()));
     painter.setPen(kText);
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, toQString(record_.title()));
+    // One point lower, on the baseline of the status text.
+    painter.drawText(rect().translated(0, 1), Qt::AlignCenter | Qt::TextSingleLine,
+                     toQString(record_.title()));
 }
 
 }  // namespace talvex

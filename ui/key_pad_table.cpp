@@ -35,7 +35,7 @@ constexpr std::array<KeyRow, 59> kKeys{{
     {u"dataCLRG", u"CLST", u"clear the stack", clear, 6, 1},
     {u"dataCLAL", u"CLALL", u"clear the stack and all memory registers", clear, 7, 1},
     {u"consPI  ", u"\u03C0", u"pi", digit, 8, 1},
-    {u"lock", u"", u"output mode independent of the input mode", shift, 9, 1, 1, lock},
+    {u"lock", u"", u"output mode independent of the input mode", function, 9, 1, 1, lock},
 
     {u"unitGCSC", u"csc", u"cosecant", function, 0, 2},
     {u"unitGSEC", u"sec", u"secant", function, 1, 2},
