@@ -31,9 +31,13 @@ double titleSize(const std::u16string& title, KeyGroup group, double formulaSize
 }  // namespace
 
 KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
-    : QAbstractButton(parent), record_(record), group_(group), observer_(*this, record) {
+    : QAbstractButton(parent),
+      record_(record),
+      group_(group),
+      observer_(*this, record, [this] { setChecked(record_.state() != 0); }) {
     setFocusPolicy(Qt::NoFocus);
     setCheckable(isModifier());
+    setChecked(record_.state() != 0);
     connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
     connect(this, &QAbstractButton::clicked, this, [this] { record_.performClick(); });
 }
@@ -57,9 +61,6 @@ void KeyButton::mousePressEvent(QMouseEvent* event) {
 
 void KeyButton::paintEvent(QPaintEvent* /*event*/) {
     const bool isLit = isModifier() && record_.state() != 0;
-    if (isModifier()) {
-        setChecked(isLit);
-    }
     const WindowColors& colors = windowColors(palette());
     const KeyColors& key = isLit ? colors.lit : colors.key(group_);
     const QColor face = isDown()       ? pressedFace(key.face)

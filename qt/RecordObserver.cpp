@@ -1,8 +1,11 @@
 #include "qt/RecordObserver.h"
 
+#include <utility>
+
 namespace talvex {
 
-RecordObserver::RecordObserver(QWidget& widget, NSView& record) : widget_(widget), record_(record) {
+RecordObserver::RecordObserver(QWidget& widget, NSView& record, std::function<void()> changed)
+    : widget_(widget), record_(record), changed_(std::move(changed)) {
     record_.setObserver(this);
     viewDidChange(record_);
 }
@@ -21,6 +24,9 @@ void RecordObserver::viewDidChange(const NSView& view) {
     const QString name = toQString(view.accessibilityLabel());
     if (widget_.accessibleName() != name) {
         widget_.setAccessibleName(name);
+    }
+    if (changed_) {
+        changed_();
     }
     widget_.update();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "platform/NSView.h"
 #include "qt/conversions.h"
@@ -11,7 +12,8 @@ namespace talvex {
 // paints the rest from the record whenever this asks for it.
 class RecordObserver final : public NSViewObserver {
   public:
-    RecordObserver(QWidget& widget, NSView& record);
+    // `changed` runs ahead of each repaint, for what the widget keeps besides.
+    RecordObserver(QWidget& widget, NSView& record, std::function<void()> changed = {});
     RecordObserver(const RecordObserver&) = delete;
     RecordObserver& operator=(const RecordObserver&) = delete;
     ~RecordObserver();
@@ -21,6 +23,7 @@ class RecordObserver final : public NSViewObserver {
   private:
     QWidget& widget_;
     NSView& record_;
+    std::function<void()> changed_;
 };
 
 }  // namespace talvex

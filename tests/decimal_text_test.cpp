@@ -6,11 +6,12 @@
 #include <bit>
 #include <clocale>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <limits>
-#include <optional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "exact_decimal.h"
@@ -43,11 +44,9 @@ std::vector<double> boundaryValues() {
     for (int exponent = -1074; exponent < 1024; exponent += 61) {
         addWithNeighbours(values, std::ldexp(1.0, exponent));
     }
-    for (const double power : {1e-300, 1e-22, 1e-5, 1e-3, 0.1, 1.0, 10.0, 1e9, 1e15, 1e22, 1e300}) {
+    for (const double power : {Limits::denorm_min(), Limits::min(), 1e-300, 1e-22, 1e-5, 1e-3, 0.1,
+                               1.0, 10.0, 1e9, 1e15, 1e22, 1e300}) {
         addWithNeighbours(values, power);
-    }
-    for (const double least : {Limits::denorm_min(), Limits::min()}) {
-        addWithNeighbours(values, least);
     }
     return values;
 }
@@ -56,26 +55,17 @@ std::vector<double> boundaryValues() {
 std::vector<double> sampleValues() {
     std::vector<double> values = boundaryValues();
     std::mt19937_64 random(20240229);
-    while (values.size() < 1500) {
+    while (values.size() < 1000) {
         const auto value = std::bit_cast<double>(random() >> 1U);
         if (std::isfinite(value)) {
             values.push_back(value);
         }
     }
-    while (values.size() < 3000) {
+    while (values.size() < 2000) {
         const auto numerator = static_cast<double>(random() % 10'000'000'000'000U);
         values.push_back(numerator / std::pow(10.0, static_cast<double>(random() % 14)));
     }
     return values;
-}
-
-ExactDecimal exactOf(const std::string& text) {
-    const std::size_t point = text.find('.');
-    if (point == std::string::npos) {
-        return {text, 0};
-    }
-    return {text.substr(0, point) + text.substr(point + 1),
-            -static_cast<int>(text.size() - point - 1)};
 }
 
 // Each test runs in the plain locale and in one that writes a comma.
@@ -106,7 +96,7 @@ TEST(ExactDecimal, PrintsAndRoundsNumbersKnownByHand) {
     EXPECT_EQ(ExactDecimal(999.5).scientific(2).mantissa, "1.00");
     EXPECT_EQ(ExactDecimal(999.5).scientific(2).exponent, 3);
     EXPECT_EQ(midpointAbove(1.0),
-              exactOf("1.00000000000000011102230246251565404236316680908203125"));
+              ExactDecimal("1.00000000000000011102230246251565404236316680908203125"));
     EXPECT_TRUE(isNearestDouble(1.0, midpointAbove(1.0)));
     EXPECT_FALSE(isNearestDouble(std::nextafter(1.0, 2.0), midpointAbove(1.0)));
 }
@@ -161,14 +151,12 @@ TEST_P(DecimalText, ParseRoundsHalfwayNumbersToEvenAndTheirNeighboursAway) {
         const double above = std::nextafter(value, kInfinity);
         const std::string text = middle.text();
         ASSERT_EQ(parseDecimal(text), isEven ? value : above) << text;
-        const std::string more = text.find('.') == std::string::npos ? ".0000001" : "0000001";
-        ASSERT_EQ(parseDecimal(text + more), above) << text;
-        std::string less = text;
+        const std::string tail = text.find('.') == std::string::npos ? ".000" : "000";
+        ASSERT_EQ(parseDecimal(text + tail + "1"), above) << text;
+        std::string less = text + tail;
         --less[less.find_last_of("123456789")];
-        const std::optional<double> lower =
-            parseDecimal(less + (more[0] == '.' ? ".9999" : "9999"));
-        ASSERT_TRUE(lower.has_value()) << less;
-        ASSERT_TRUE(isNearestDouble(*lower, exactOf(less + (more[0] == '.' ? ".9999" : "9999"))))
+        less += "9999";
+        ASSERT_TRUE(isNearestDouble(parseDecimal(less).value_or(kInfinity), ExactDecimal(less)))
             << less;
     }
 }
@@ -180,9 +168,9 @@ TEST_P(DecimalText, ParseTakesTheNearestDoubleOfNineteenDigits) {
             std::to_string(random() % 9'000'000'000'000'000'000U + 1'000'000'000'000'000'000U);
         const int exponent = static_cast<int>(random() % 660) - 350;
         const std::string text = digits + "e" + std::to_string(exponent);
-        const std::optional<double> value = parseDecimal(text);
-        ASSERT_TRUE(value.has_value()) << text;
-        ASSERT_TRUE(isNearestDouble(*value, ExactDecimal(digits, exponent))) << text;
+        const double value = parseDecimal(text).value_or(std::nan(""));
+        ASSERT_FALSE(std::isnan(value)) << text;
+        ASSERT_TRUE(isNearestDouble(value, ExactDecimal(digits, exponent))) << text;
     }
 }
 
@@ -244,7 +232,7 @@ TEST_P(DecimalText, RoundingGivesTheNearestDoubleOfThePrintedText) {
         const ExactDecimal exact(value);
         for (const int places : {0, 2, 4, 9}) {
             const double rounded = DYXRoundToDigits(value, static_cast<unsigned>(places));
-            ASSERT_TRUE(isNearestDouble(rounded, exactOf(exact.fixed(places))))
+            ASSERT_TRUE(isNearestDouble(rounded, ExactDecimal(exact.fixed(places))))
                 << value << " to " << places;
             ASSERT_EQ(bitsOf(DYXRoundToDigits(-value, static_cast<unsigned>(places))),
                       bitsOf(-rounded));

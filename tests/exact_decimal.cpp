@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace talvex {
@@ -94,11 +96,16 @@ ExactDecimal::ExactDecimal(double value) {
     *this = fromBinary(mantissa, exponent);
 }
 
-ExactDecimal::ExactDecimal(std::string_view digits, int exponent) {
-    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
-    const std::size_t length = digits.find_last_not_of('0') + 1;  // 0 if there is none
-    digits_ = digits.substr(0, length);
-    exponent_ = length == 0 ? 0 : exponent + static_cast<int>(digits.size() - length);
+ExactDecimal::ExactDecimal(std::string digits, int exponent) : digits_(std::move(digits)) {
+    const std::size_t point = digits_.find('.');
+    if (point != std::string::npos) {
+        digits_.erase(point, 1);
+        exponent -= static_cast<int>(digits_.size() - point);
+    }
+    const std::size_t length = digits_.find_last_not_of('0') + 1;  // 0 if there is none
+    exponent_ = length == 0 ? 0 : exponent + static_cast<int>(digits_.size() - length);
+    digits_.resize(length);
+    digits_.erase(0, std::min(digits_.find_first_not_of('0'), length));
 }
 
 ExactDecimal ExactDecimal::fromBinary(std::uint64_t mantissa, int exponent) {
@@ -108,7 +115,7 @@ ExactDecimal ExactDecimal::fromBinary(std::uint64_t mantissa, int exponent) {
     // A half is five tenths.
     multiplyByPower(limbs, 2, exponent, 29);
     multiplyByPower(limbs, 5, -exponent, 12);
-    return {decimalDigits(limbs), std::min(exponent, 0)};
+    return ExactDecimal(decimalDigits(limbs), std::min(exponent, 0));
 }
 
 int ExactDecimal::leadingPower() const { return static_cast<int>(digits_.size()) - 1 + exponent_; }

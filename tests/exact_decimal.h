@@ -3,7 +3,6 @@
 #include <compare>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 // Exact decimal numbers by integer arithmetic on decimal digits: what printed and parsed doubles
 // are measured against. It shares no step with the code that it checks, and takes its time.
@@ -14,8 +13,8 @@ class ExactDecimal {
   public:
     // The magnitude of a finite double.
     explicit ExactDecimal(double value);
-    // digits * 10^exponent; the digits are decimal.
-    ExactDecimal(std::string_view digits, int exponent);
+    // A text of decimal digits, with or without a point, times 10^exponent.
+    explicit ExactDecimal(std::string digits, int exponent = 0);
     // mantissa * 2^exponent, also where no double has that value.
     static ExactDecimal fromBinary(std::uint64_t mantissa, int exponent);
 
