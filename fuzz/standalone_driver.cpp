@@ -1,17 +1,21 @@
 // Feeds a fuzz target with random bytes where no coverage-guided fuzzer drives it, or with files.
 
+#include <charconv>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
+
+constexpr std::uint64_t kLongestInput = 1U << 24U;
 
 struct Options {
     std::uint64_t runs = 10000;
@@ -20,31 +24,49 @@ struct Options {
     std::vector<std::string> files;
 };
 
-Options readOptions(int argc, char** argv) {
-    Options options;
-    for (int index = 1; index < argc; ++index) {
-        const std::string argument = argv[index];
-        const auto number = [&] {
-            return index + 1 < argc ? std::strtoull(argv[++index], nullptr, 10) : 0;
-        };
-        if (argument == "--runs") {
-            options.runs = number();
-        } else if (argument == "--seed") {
-            options.seed = number();
-        } else if (argument == "--max-length") {
-            options.maxLength = number();
-        } else {
-            options.files.push_back(argument);
-        }
-    }
-    return options;
+bool readNumber(std::string_view text, std::uint64_t& number) {
+    const char* const end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, number);
+    return result.ec == std::errc() && result.ptr == end;
 }
 
-void replay(const std::string& name) {
+std::uint64_t* numberNamed(std::string_view name, Options& options) {
+    if (name == "--runs") {
+        return &options.runs;
+    }
+    if (name == "--seed") {
+        return &options.seed;
+    }
+    return name == "--max-length" ? &options.maxLength : nullptr;
+}
+
+// False for what can't be understood: a test whose options were misread would run nothing and pass.
+bool readOptions(const std::vector<std::string>& arguments, Options& options) {
+    for (std::size_t index = 0; index < arguments.size(); ++index) {
+        if (!arguments[index].starts_with("--")) {
+            options.files.push_back(arguments[index]);
+            continue;
+        }
+        std::uint64_t* const number = numberNamed(arguments[index], options);
+        ++index;
+        if (number == nullptr || index == arguments.size() ||
+            !readNumber(arguments[index], *number)) {
+            return false;
+        }
+    }
+    return options.maxLength <= kLongestInput;
+}
+
+bool replay(const std::string& name) {
     std::ifstream file(name, std::ios::binary);
+    if (!file.is_open() || std::filesystem::is_directory(name)) {
+        std::fprintf(stderr, "can't read %s\n", name.c_str());
+        return false;
+    }
     const std::string bytes((std::istreambuf_iterator<char>(file)), {});
     const std::vector<std::uint8_t> data(bytes.begin(), bytes.end());
     LLVMFuzzerTestOneInput(data.data(), data.size());
+    return true;
 }
 
 void feedRandomBytes(const Options& options) {
@@ -62,9 +84,15 @@ void feedRandomBytes(const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const Options options = readOptions(argc, argv);
+    Options options;
+    if (!readOptions({argv + 1, argv + argc}, options)) {
+        std::fprintf(stderr, "usage: %s [--runs N] [--seed S] [--max-length L] [file...]\n",
+                     argv[0]);
+        return 2;
+    }
+    bool allRead = true;
     for (const std::string& file : options.files) {
-        replay(file);
+        allRead = replay(file) && allRead;
     }
     if (options.files.empty()) {
         std::printf("seed %llu\n", static_cast<unsigned long long>(options.seed));
@@ -72,5 +100,5 @@ int main(int argc, char** argv) {
         feedRandomBytes(options);
         std::printf("%llu inputs done\n", static_cast<unsigned long long>(options.runs));
     }
-    return 0;
+    return allRead ? 0 : 1;
 }
