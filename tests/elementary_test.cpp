@@ -2,108 +2,96 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <bit>
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <string>
 #include <vector>
 
-#include "core/Comand.h"
-#include "core/function_tables.h"
 #include "numeric/DYXnan.h"
 #include "numeric/checked_elementary.h"
 
 namespace talvex {
 namespace {
 
-using Context = DYXMathContext;
-using Checked = double (*)(const Context&, double);
-using Checked2 = double (*)(const Context&, double, double);
-using Plain = double (*)(double);
+using Checked = double (*)(const DYXMathContext&, double);
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kHalfPi = 1.5707963267948966;
+constexpr double kLeast = std::numeric_limits<double>::denorm_min();
+const double kIndeterminate = DYXnan('\0');
 
-std::uint64_t bitsOf(double value) { return std::bit_cast<std::uint64_t>(value); }
 double below(double value) { return std::nextafter(value, -kInfinity); }
 double above(double value) { return std::nextafter(value, kInfinity); }
 
-// Whether a result is a number; else it is told by its error text.
-testing::AssertionResult isNumber(double value) {
-    if (!std::isnan(value)) {
+// The same bits; of a NaN of ordinary arithmetic the sign is the processor's business.
+testing::AssertionResult isSame(double actual, double expected) {
+    const auto bits = std::bit_cast<std::uint64_t>(actual);
+    const auto wanted = std::bit_cast<std::uint64_t>(expected);
+    constexpr std::uint64_t sign = std::uint64_t{1} << 63U;
+    const bool isPlainNaN = wanted == std::bit_cast<std::uint64_t>(kIndeterminate);
+    if (bits == wanted || (isPlainNaN && bits == (wanted | sign))) {
         return testing::AssertionSuccess();
     }
-    const std::u16string text = DYXnanString(value);
-    return testing::AssertionFailure() << std::string(text.begin(), text.end());
+    return testing::AssertionFailure()
+           << actual << " (" << std::hex << bits << ") for " << expected << " (" << wanted << ")";
 }
 
 struct DomainRow {
     const char* name;
     Checked function;
+    char error;
     std::vector<double> accepted;
     std::vector<double> refused;
-    const char16_t* error;
 };
 
 TEST(CheckedFunctions, RefuseArgumentsJustBeyondTheirDomain) {
-    const double least = std::numeric_limits<double>::denorm_min();
+    const std::vector<double> zeros{0.0, -0.0};
+    const std::vector<double> nonZeros{kLeast, -kLeast, 1};
+    const std::vector<double> fromZero{0.0, -0.0, kLeast, kInfinity};
+    const std::vector<double> belowZero{-kLeast, -1, -kInfinity};
     const std::vector<DomainRow> rows{
-        {"DYXsqrt", DYXsqrt, {-0.0, least, kInfinity}, {-least, -1, -kInfinity}, u"sqrt error"},
-        {"DYXlog", DYXlog, {-0.0, least, kInfinity}, {-least, -1, -kInfinity}, u"log error"},
-        {"DYXlog10", DYXlog10, {-0.0, least, kInfinity}, {-least, -1, -kInfinity}, u"log error"},
-        {"DYXlog2", DYXlog2, {-0.0, least, kInfinity}, {-least, -1, -kInfinity}, u"log error"},
-        {"DYXacosh", DYXacosh, {1, above(1), kInfinity}, {below(1), 0.5, -kInfinity},
-         u"hyperbolic error"},
-        {"DYXatanh", DYXatanh, {1, -1, 0.5}, {above(1), below(-1), kInfinity, -kInfinity},
-         u"hyperbolic error"},
-        {"DYXcsch", DYXcsch, {least, -least, 1}, {0.0, -0.0}, u"undefined"},
-        {"DYXacsch", DYXacsch, {least, -least, 1}, {0.0, -0.0}, u"undefined"},
-        {"DYXcoth", DYXcoth, {least, -least, 1}, {0.0, -0.0}, u"undefined"},
-        {"DYXasech", DYXasech, {0.0, 1, 0.5}, {-least, above(1), kInfinity, -kInfinity},
-         u"hyperbolic error"},
-        {"DYXacoth", DYXacoth, {1, -1, above(1), kInfinity}, {below(1), above(-1), 0.0, -0.0},
-         u"hyperbolic error"},
+        {"DYXsqrt", DYXsqrt, 'Q', fromZero, belowZero},
+        {"DYXlog", DYXlog, 'L', fromZero, belowZero},
+        {"DYXlog10", DYXlog10, 'L', fromZero, belowZero},
+        {"DYXlog2", DYXlog2, 'L', fromZero, belowZero},
+        {"DYXacosh", DYXacosh, 'H', {1, above(1), kInfinity}, {below(1), 0.5, -kInfinity}},
+        {"DYXatanh", DYXatanh, 'H', {1, -1, 0.5}, {above(1), below(-1), kInfinity, -kInfinity}},
+        {"DYXasech", DYXasech, 'H', {0.0, -0.0, 1, 0.5}, {-kLeast, above(1), kInfinity}},
+        {"DYXacoth", DYXacoth, 'H', {1, -1, above(1), kInfinity}, {below(1), above(-1), 0.0}},
+        {"DYXcsch", DYXcsch, '?', nonZeros, zeros},
+        {"DYXacsch", DYXacsch, '?', nonZeros, zeros},
+        {"DYXcoth", DYXcoth, '?', nonZeros, zeros},
     };
     for (const DomainRow& row : rows) {
         SCOPED_TRACE(row.name);
         for (const double x : row.accepted) {
-            EXPECT_TRUE(isNumber(row.function({}, x))) << x;
+            // asech of -0 is the hyperbolic arc cosine of minus infinity.
+            const bool isLibraryNaN = row.function == DYXasech && std::signbit(x);
+            EXPECT_EQ(std::isnan(row.function({}, x)), isLibraryNaN) << x;
         }
         for (const double x : row.refused) {
-            const double result = row.function({}, x);
-            ASSERT_TRUE(std::isnan(result)) << x;
-            EXPECT_EQ(DYXnanString(result), row.error) << x;
+            EXPECT_TRUE(isSame(row.function({}, x), DYXnan(row.error))) << x;
         }
-        EXPECT_EQ(bitsOf(row.function({}, DYXnan('B'))), bitsOf(DYXnan('B')));
+        EXPECT_TRUE(isSame(row.function({}, DYXnan('B')), DYXnan('B')));
     }
 }
 
-TEST(CheckedFunctions, HaveTheirLimitsAtTheEdges) {
-    EXPECT_EQ(bitsOf(DYXsqrt({}, -0.0)), bitsOf(-0.0));
-    EXPECT_EQ(DYXsqrt({}, 6.25), 2.5);
+TEST(CheckedFunctions, HaveTheLibrarysValuesWithinTheirDomain) {
+    EXPECT_TRUE(isSame(DYXsqrt({}, -0.0), -0.0));
     EXPECT_EQ(DYXlog({}, 0.0), -kInfinity);
-    EXPECT_EQ(DYXlog10({}, -0.0), -kInfinity);
     EXPECT_EQ(DYXlog10({}, 1000.0), 3.0);
     EXPECT_EQ(DYXlog2({}, 0.125), -3.0);
-    EXPECT_EQ(DYXacosh({}, 1.0), 0.0);
-    EXPECT_EQ(DYXatanh({}, 1.0), kInfinity);
     EXPECT_EQ(DYXatanh({}, -1.0), -kInfinity);
     EXPECT_EQ(DYXasech({}, 0.0), kInfinity);
-    EXPECT_EQ(DYXasech({}, 1.0), 0.0);
     EXPECT_EQ(DYXacoth({}, 1.0), kInfinity);
-    EXPECT_EQ(DYXacoth({}, -1.0), -kInfinity);
-    EXPECT_EQ(DYXacoth({}, 2.0), std::atanh(0.5));
-    EXPECT_EQ(DYXcsch({}, kInfinity), 0.0);
+    EXPECT_DOUBLE_EQ(DYXacoth({}, 2.0), 0.5493061443340549);
 }
 
-TEST(CheckedExponentials, TellOverflowAndUnderflowFromResults) {
-    const double least = std::numeric_limits<double>::denorm_min();
+TEST(CheckedExponentials, TellOverflowAndUnderflowFromTheResult) {
     const struct {
         const char* name;
         Checked function;
-        double largest, overflows, subnormal, underflows;
+        double largest, overflow, subnormal, underflow;
     } rows[]{
         {"DYXexp", DYXexp, 709, 710, -740, -746},
         {"DYXpow10", DYXpow10, 308, 309, -320, -324},
@@ -112,119 +100,147 @@ TEST(CheckedExponentials, TellOverflowAndUnderflowFromResults) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_TRUE(std::isfinite(row.function({}, row.largest)));
-        EXPECT_EQ(bitsOf(row.function({}, row.overflows)), bitsOf(DYXnan('O')));
-        EXPECT_EQ(bitsOf(row.function({}, 1e300)), bitsOf(DYXnan('O')));
         EXPECT_EQ(std::fpclassify(row.function({}, row.subnormal)), FP_SUBNORMAL);
-        EXPECT_EQ(bitsOf(row.function({}, row.underflows)), bitsOf(DYXnan('U')));
-        EXPECT_EQ(bitsOf(row.function({}, -1e300)), bitsOf(DYXnan('U')));
-        EXPECT_EQ(row.function({}, kInfinity), kInfinity);
-        EXPECT_EQ(row.function({}, -kInfinity), 0.0);
+        EXPECT_TRUE(isSame(row.function({}, row.overflow), DYXnan('O')));
+        EXPECT_TRUE(isSame(row.function({}, row.underflow), DYXnan('U')));
+        EXPECT_TRUE(isSame(row.function({}, kInfinity), kInfinity));
+        EXPECT_TRUE(isSame(row.function({}, -kInfinity), 0.0));
         EXPECT_EQ(row.function({}, -0.0), 1.0);
-        EXPECT_EQ(bitsOf(row.function({}, DYXnan('Q'))), bitsOf(DYXnan('Q')));
+        EXPECT_TRUE(isSame(row.function({}, DYXnan('Q')), DYXnan('Q')));
     }
-    EXPECT_EQ(DYXpow2({}, -1074.0), least);
-    EXPECT_EQ(DYXpow2({}, 0.5), 1.4142135623730951);
-    EXPECT_EQ(DYXpow10({}, 15.0), 1e15);
+    EXPECT_EQ(DYXpow2({}, -1074.0), kLeast);
 }
 
-TEST(Powers, RefuseANegativeBaseUnlessTheExponentIsWhole) {
-    const struct {
-        double base, exponent, result;
-    } rows[]{
-        {-8, 3, -512},
-        {-8, -1, -0.125},
-        {-8, 0.5, DYXnan('P')},
-        {-8, above(3), DYXnan('P')},
-        {-2, 4294967296.0, DYXnan('P')},
-        {-1, 2147483647, -1},
-        {-1, 2147483648.0, DYXnan('P')},
-        {-1, -2147483648.0, 1},
-        {-1, -2147483649.0, DYXnan('P')},
-        {-2, kInfinity, DYXnan('P')},
-        {-kInfinity, 0.5, DYXnan('P')},
-        {-2, DYXnan('L'), DYXnan('P')},
-        {2, DYXnan('L'), DYXnan('L')},
-        {DYXnan('L'), 2, DYXnan('L')},
-        {0, 0, 1},
-        {-0.0, 0.5, 0},
-        {0, -1, kInfinity},
-        {-0.0, -1, -kInfinity},
-        {2, 0.5, 1.4142135623730951},
-        {10, 400, kInfinity},
-    };
-    Context baseInY;
-    Context baseInX;
-    baseInX.useHPStylePowerAndLogs = false;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.base << " to the power " << row.exponent);
-        EXPECT_EQ(bitsOf(DYXXpowY({}, row.base, row.exponent)), bitsOf(row.result));
-        EXPECT_EQ(bitsOf(DYXYpowX({}, row.exponent, row.base)), bitsOf(row.result));
-        EXPECT_EQ(bitsOf(DYXpow(baseInY, row.exponent, row.base)), bitsOf(row.result));
-        EXPECT_EQ(bitsOf(DYXpow(baseInX, row.base, row.exponent)), bitsOf(row.result));
+struct OperandRow {
+    double first, second, result;
+};
+
+DYXMathContext baseInX() {
+    DYXMathContext context;
+    context.useHPStylePowerAndLogs = false;
+    return context;
+}
+
+TEST(Powers, RefuseANegativeBaseUnlessTheExponentIsAWhole32BitNumber) {
+    const OperandRow rows[]{{-8, 3, -512},
+                            {-8, 0.5, DYXnan('P')},
+                            {-8, above(3), DYXnan('P')},
+                            {-1, 2147483647, -1},
+                            {-1, -2147483648.0, 1},
+                            {-1, -2147483649.0, DYXnan('P')},
+                            {-2, 4294967296.0, DYXnan('P')},
+                            {-2, DYXnan('L'), DYXnan('P')},
+                            {2, DYXnan('L'), DYXnan('L')},
+                            {DYXnan('L'), 2, DYXnan('L')},
+                            {0, 0, 1},
+                            {-0.0, 0.5, 0},
+                            {0, -1, kInfinity},
+                            {-0.0, -1, -kInfinity},
+                            {10, 400, kInfinity}};
+    for (const auto& [base, exponent, result] : rows) {
+        SCOPED_TRACE(testing::Message() << base << " to the power " << exponent);
+        EXPECT_TRUE(isSame(DYXXpowY({}, base, exponent), result));
+        EXPECT_TRUE(isSame(DYXYpowX({}, exponent, base), result));
+        EXPECT_TRUE(isSame(DYXpow({}, exponent, base), result));
+        EXPECT_TRUE(isSame(DYXpow(baseInX(), base, exponent), result));
     }
 }
 
 TEST(LogarithmsToABase, RefuseWhatIsBelowZero) {
-    Context baseInY;
-    Context baseInX;
-    baseInX.useHPStylePowerAndLogs = false;
-    const struct {
-        double base, argument;
-        const char16_t* error;  // or null for `result`
-        double result;
-    } rows[]{
-        {10, 1000, nullptr, std::log(1000.0) / std::log(10.0)},
-        {2, 8, nullptr, std::log(8.0) / std::log(2.0)},
-        {-2, 8, u"log error", 0},
-        {2, -8, u"log error", 0},
-        {1, 8, nullptr, kInfinity},
-        {0, 0, u"indeterminate", 0},
-        {2, 0, nullptr, -kInfinity},
-        {-0.0, 8, nullptr, -0.0},
+    const OperandRow rows[]{
+        {-2, 8, DYXnan('L')},
+        {2, -8, DYXnan('L')},
+        {-kLeast, -kLeast, DYXnan('L')},
+        {1, 8, kInfinity},
+        {-0.0, 8, -0.0},
+        {0, 0, kIndeterminate},
+        {DYXnan('Q'), 8, DYXnan('Q')},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.argument << " to the base " << row.base);
-        for (const double result :
-             {DYXlogYbaseX({}, row.base, row.argument), DYXlogXbaseY({}, row.argument, row.base),
-              DYXlogbase(baseInX, row.base, row.argument),
-              DYXlogbase(baseInY, row.argument, row.base)}) {
-            if (row.error != nullptr) {
-                ASSERT_TRUE(std::isnan(result));
-                EXPECT_EQ(DYXnanString(result), row.error);
-            } else {
-                EXPECT_EQ(bitsOf(result), bitsOf(row.result));
-            }
-        }
+    for (const auto& [base, argument, result] : rows) {
+        SCOPED_TRACE(testing::Message() << argument << " to the base " << base);
+        EXPECT_TRUE(isSame(DYXlogYbaseX({}, base, argument), result));
+        EXPECT_TRUE(isSame(DYXlogXbaseY({}, argument, base), result));
+        EXPECT_TRUE(isSame(DYXlogbase({}, argument, base), result));
+        EXPECT_TRUE(isSame(DYXlogbase(baseInX(), base, argument), result));
     }
     EXPECT_NEAR(DYXlogYbaseX({}, 10, 1000), 3.0, 1e-15);
-    EXPECT_NEAR(DYXlogXbaseY({}, 10, 1000), 1.0 / 3.0, 1e-15);
 }
 
-TEST(PlainFunctions, AreTheQuotientsThatTheyAreToldToBe) {
+TEST(PlainFunctions, AgreeWithValuesComputedToFortyDigits) {
     const struct {
         const char* name;
-        Plain function;
-        double (*expected)(double);
+        double (*function)(double);
+        double x, value;
     } rows[]{
-        {"cot", cot, [](double x) { return 1 / std::tan(x); }},
-        {"coth", coth, [](double x) { return 1 / std::tanh(x); }},
-        {"sec", sec, [](double x) { return 1 / std::cos(x); }},
-        {"sech", sech, [](double x) { return 1 / std::cosh(x); }},
-        {"csc", csc, [](double x) { return 1 / std::sin(x); }},
-        {"csch", csch, [](double x) { return 1 / std::sinh(x); }},
-        {"acoth", acoth, [](double x) { return std::atanh(1 / x); }},
-        {"asec", asec, [](double x) { return std::acos(1 / x); }},
-        {"asech", asech, [](double x) { return std::acosh(1 / x); }},
-        {"acsc", acsc, [](double x) { return std::asin(1 / x); }},
-        {"acsch", acsch, [](double x) { return std::asinh(1 / x); }},
-        {"square", square, [](double x) { return x * x; }},
-        {"inverse", inverse, [](double x) { return 1 / x; }},
+        {"cot", cot, 0.5, 1.830487721712452},
+        {"cot", cot, -2, 0.45765755436028577},
+        {"coth", coth, 0.5, 2.163953413738653},
+        {"coth", coth, -2, -1.0373147207275482},
+        {"sec", sec, 0.5, 1.139493927324549},
+        {"sec", sec, -2, -2.402997961722381},
+        {"sech", sech, 0.5, 0.8868188839700739},
+        {"sech", sech, -2, 0.26580222883407967},
+        {"csc", csc, 0.5, 2.085829642933488},
+        {"csc", csc, -2, -1.0997501702946164},
+        {"csch", csch, 0.5, 1.9190347513349437},
+        {"csch", csch, -2, -0.2757205647717832},
+        {"acot", acot, 2, 0.4636476090008061},
+        {"acot", acot, -0.5, -1.1071487177940904},
+        {"acot", acot, 0.0, 1.5707963267948966},
+        {"acot", acot, -0.0, 1.5707963267948966},
+        {"acoth", acoth, 2, 0.5493061443340549},
+        {"acoth", acoth, -4, -0.25541281188299536},
+        {"asec", asec, 2, 1.0471975511965979},
+        {"asec", asec, -4, 1.8234765819369754},
+        {"acsc", acsc, 2, 0.5235987755982989},
+        {"acsc", acsc, -4, -0.25268025514207865},
+        {"acsch", acsch, 2, 0.48121182505960347},
+        {"acsch", acsch, -0.5, -1.4436354751788103},
+        {"asech", asech, 0.5, 1.3169578969248168},
+        {"square", square, -1.5, 2.25},
+        {"inverse", inverse, -8, -0.125},
+        {"inverse", inverse, -0.0, -kInfinity},
+        {"pow10", pow10, -2, 0.01},
+        {"pow10", pow10, 400, kInfinity},
+        {"frac", frac, 2.75, 0.75},
+        {"frac", frac, -2.75, -0.75},
+        {"frac", frac, 2147483647.5, 0.5},
+        {"frac", frac, 1e10, 12147483648.0},
     };
     for (const auto& row : rows) {
-        for (const double x : {-3.5, -1.0, -0.25, 0.0, 0.25, 0.5, 1.0, 2.0, 40.0}) {
-            const double expected = row.expected(x);
-            SCOPED_TRACE(testing::Message() << row.name << " of " << x);
-            EXPECT_TRUE(bitsOf(row.function(x)) == bitsOf(expected));
+        EXPECT_DOUBLE_EQ(row.function(row.x), row.value) << row.name << " of " << row.x;
+    }
+}
+
+TEST(TwoOperandFunctions, TakeXFirst) {
+    const double lowest = -2147483648.0;
+    const struct {
+        const char* name;
+        double (*function)(double, double);
+        std::vector<OperandRow> rows;
+    } functions[]{
+        {"plus", plus, {{2, 7, 9}}},
+        {"minus", minus, {{2, 7, 5}, {kInfinity, kInfinity, kIndeterminate}}},
+        {"times", times, {{2, 7, 14}}},
+        {"divide", divide, {{2, 7, 3.5}, {0, 1, kInfinity}, {-0.0, 1, -kInfinity}}},
+        {"0 / 0", divide, {{0, 0, kIndeterminate}}},
+        {"mod", mod, {{3, 7, 1}, {3, -7, -1}, {-3.9, 7.9, 1}, {-1, lowest, 0}, {7, 1e10, -2}}},
+        {"mod by 0", mod, {{0.9, 7, DYXnan('?')}, {-0.0, 0, DYXnan('?')}}},
+        {"mod of errors", mod, {{DYXnan('L'), 7, 7}, {3, DYXnan('L'), -2}}},
+        {"divf", divf, {{3, 7, 2}, {3, -7, -2}, {-3.9, 7.9, -2}, {1, lowest, lowest}}},
+        {"divf by 0", divf, {{-0.9, 7, DYXnan('?')}, {0, 0, DYXnan('?')}}},
+        {"divf at the limit", divf, {{-1, lowest, DYXnan('O')}, {-1, lowest + 1, 2147483647}}},
+        {"divf of errors", divf, {{DYXnan('L'), 7, 0}, {3, DYXnan('L'), -715827882}}},
+        {"rem", rem, {{3, 7, 1}, {3, 8, 2}, {3, -1, 2}, {3, 4.5, 1.5}, {3, -1.5, 1.5}}},
+        {"rem, rare operands", rem, {{-3, 8, -4}, {0, 8, kIndeterminate}, {kInfinity, 8, 8}}},
+        {"hypotenuse", hypotenuse, {{3, -4, 5}, {1e200, 1, kInfinity}}},
+        {"geometricmean", geometricmean, {{2, 8, 4}, {-2, 8, kIndeterminate}}},
+        {"deltapercent", deltapercent, {{150, 120, 25}, {90, -120, -175}}},
+        {"deltapercent of 0", deltapercent, {{-1, 0, -kInfinity}, {0, 0, kIndeterminate}}},
+    };
+    for (const auto& [name, function, rows] : functions) {
+        for (const auto& [x, y, result] : rows) {
+            EXPECT_TRUE(isSame(function(x, y), result)) << name << " of " << x << " and " << y;
         }
     }
 }

@@ -83,48 +83,44 @@ TEST(ErrorValue, TravelsThroughArithmetic) {
 
 TEST(SignedConversion, TruncatesTowardZeroAndSaturatesAtTheLowestNumber) {
     constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
-    const std::pair<double, std::int32_t> rows[]{
-        {0.0, 0},
-        {-0.0, 0},
-        {0.999, 0},
-        {-0.999, 0},
-        {2.75, 2},
-        {-2.75, -2},
-        {2147483647.0, 2147483647},
-        {std::nextafter(2147483648.0, 0.0), 2147483647},
-        {2147483648.0, lowest},
-        {4294967296.0, lowest},
-        {1e300, lowest},
-        {-2147483647.5, -2147483647},
-        {-2147483648.0, lowest},
-        {std::nextafter(-2147483649.0, 0.0), lowest},
-        {-2147483649.0, lowest},
-        {kInfinity, lowest},
-        {-kInfinity, lowest},
-        {DYXnan('L'), lowest},
-    };
+    const std::pair<double, std::int32_t> rows[]{{0.0, 0},
+                                                 {-0.0, 0},
+                                                 {0.999, 0},
+                                                 {-0.999, 0},
+                                                 {2.75, 2},
+                                                 {-2.75, -2},
+                                                 {2147483647.0, 2147483647},
+                                                 {std::nextafter(2147483648.0, 0.0), 2147483647},
+                                                 {2147483648.0, lowest},
+                                                 {4294967296.0, lowest},
+                                                 {1e300, lowest},
+                                                 {-2147483647.5, -2147483647},
+                                                 {-2147483648.0, lowest},
+                                                 {std::nextafter(-2147483649.0, 0.0), lowest},
+                                                 {-2147483649.0, lowest},
+                                                 {kInfinity, lowest},
+                                                 {-kInfinity, lowest},
+                                                 {DYXnan('L'), lowest}};
     for (const auto& [value, expected] : rows) {
         EXPECT_EQ(toInt32(value), expected) << value;
     }
 }
 
 TEST(UnsignedConversion, TruncatesAndClampsAtBothEnds) {
-    const std::pair<double, std::uint32_t> rows[]{
-        {0.0, 0},
-        {-0.5, 0},
-        {-1e300, 0},
-        {-kInfinity, 0},
-        {0.999, 0},
-        {1.0, 1},
-        {2147483648.0, 2147483648U},
-        {4294967294.5, 4294967294U},
-        {4294967295.0, 4294967295U},
-        {std::nextafter(4294967296.0, 0.0), 4294967295U},
-        {4294967296.0, 4294967295U},
-        {kInfinity, 4294967295U},
-        {DYXnan('?'), 2147483648U},
-        {-DYXnan('\0'), 2147483648U},
-    };
+    const std::pair<double, std::uint32_t> rows[]{{0.0, 0},
+                                                  {-0.5, 0},
+                                                  {-1e300, 0},
+                                                  {-kInfinity, 0},
+                                                  {0.999, 0},
+                                                  {1.0, 1},
+                                                  {2147483648.0, 2147483648U},
+                                                  {4294967294.5, 4294967294U},
+                                                  {4294967295.0, 4294967295U},
+                                                  {std::nextafter(4294967296.0, 0.0), 4294967295U},
+                                                  {4294967296.0, 4294967295U},
+                                                  {kInfinity, 4294967295U},
+                                                  {DYXnan('?'), 2147483648U},
+                                                  {-DYXnan('\0'), 2147483648U}};
     for (const auto& [value, expected] : rows) {
         EXPECT_EQ(toCount(value), expected) << value;
     }

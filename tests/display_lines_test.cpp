@@ -1,0 +1,222 @@
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "numeric/DYXnan.h"
+#include "platform/HeadlessPlatform.h"
+#include "state/DYXDataExtensions.h"
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+namespace {
+
+using Text = std::u16string;
+
+NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
+
+Text mantissaOf(const DYXOutputDisplay& line) { return line.mantissaField()->stringValue(); }
+
+TEST(CopiedLine, IsPlainAndStandsAboveItsOriginal) {
+    HeadlessPlatform platform;
+    NSView view(NSRect{0, 0, 394, 41});
+    const auto field = [&view](const NSRect& frame) {
+        auto made = std::make_shared<NSTextField>(frame);
+        made->setAutoresizingMask(NSViewWidthSizable);
+        view.addSubview(made);
+        return made;
+    };
+    DYXInputDisplay line(platform, {.mantissa = field({31, 20, 319, 17}),
+                                    .mantissaSign = nullptr,
+                                    .exponent = field({353, 20, 37, 17}),
+                                    .exponentSign = field({341, 20, 19, 17}),
+                                    .label = field({4, 17, 12, 17}),
+                                    .status = field({181, 1, 207, 13})});
+    line.setDigits(7);
+    line.setMaxDigits(12);
+    line.setInputMode(8);
+    line.setOutputMode(1);
+    line.setReduceCarpentryFractions(false);
+    line.setDisplayIrrationals(true);
+    line.setDecimalSeparator(u',');
+    line.setGroupingDigits(4);
+    line.setGroupingSeparator(u"_");
+    const std::unique_ptr<DYXOutputDisplay> copy = line.copy();
+    EXPECT_EQ(dynamic_cast<DYXInputDisplay*>(copy.get()), nullptr);
+    EXPECT_EQ(copy->mantissaField()->frame(), (NSRect{31, 40, 319, 17}));
+    EXPECT_EQ(copy->mantissaField()->superview(), &view);
+    EXPECT_EQ(copy->mantissaField()->autoresizingMask(), NSViewWidthSizable);
+    EXPECT_EQ(copy->labelField()->frame(), (NSRect{4, 37, 12, 17}));
+    EXPECT_EQ(copy->statusField(), nullptr);
+    EXPECT_EQ(copy->mantissaSignField(), nullptr);
+    EXPECT_EQ(copy->digits(), 7U);
+    EXPECT_EQ(copy->maxDigits(), 12U);
+    EXPECT_EQ(copy->outputMode(), 1);
+    EXPECT_FALSE(copy->reduceCarpentryFractions());
+    EXPECT_FALSE(copy->displayIrrationals());
+    EXPECT_EQ(copy->decimalSeparator(), u'.');
+    EXPECT_EQ(copy->groupingDigits(), 3U);
+    EXPECT_EQ(copy->integerGroupingSeparator(), u"");
+
+    const NSFont font{.name = u"Some Font", .size = 20};
+    line.setTextFont(font);
+    copy->syncToDisplay(line);
+    EXPECT_EQ(copy->outputMode(), 8);  // the mode that the original shows in
+    EXPECT_TRUE(copy->displayIrrationals());
+    EXPECT_EQ(copy->decimalSeparator(), u',');
+    EXPECT_EQ(copy->groupingDigits(), 4U);
+    EXPECT_EQ(copy->integerGroupingSeparator(), u"_");
+    EXPECT_EQ(copy->decimalGroupingSeparator(), u"_");
+    EXPECT_EQ(copy->textFont(), font);
+    copy->setOutputTo(-DYXnan('Q'));  // absent slots are passed over
+    EXPECT_EQ(mantissaOf(*copy), u"sqrt error");
+}
+
+class WindowLines : public testing::Test {
+  protected:
+    Text shown(double x) {
+        controller.stack().reg.fill(x);
+        controller.updateDisplay();
+        EXPECT_EQ(mantissaOf(controller.yDisplay()), mantissaOf(controller.xDisplay()));
+        EXPECT_EQ(mantissaOf(controller.tDisplay()), mantissaOf(controller.xDisplay()));
+        return mantissaOf(controller.xDisplay());
+    }
+
+    HeadlessPlatform platform;
+    DYXWindowController controller{platform};
+};
+
+TEST_F(WindowLines, GroupDigitsFromTheFirstStartOn) {
+    EXPECT_EQ(shown(1234567.891), u"1,234,567.891\u20090");
+    EXPECT_EQ(controller.cDisplay().integerGroupingSeparator(), u"");
+    EXPECT_EQ(controller.cDisplay().decimalGroupingSeparator(), u"");
+    controller.takeInputModeFrom(itemOf(1));
+    EXPECT_EQ(shown(1234.5678), u"1.234\u20096");
+}
+
+TEST_F(WindowLines, NeverGroupWithTheDecimalSeparator) {
+    controller.setDecimalMode(2);
+    EXPECT_EQ(shown(1234567.891), u"1.234.567,891\u20090");
+    controller.setDecimalMode(1);
+    EXPECT_EQ(shown(1234567.891), u"1,234,567.891\u20090");
+    controller.setDecimalMode(0);
+    platform.format.decimalSeparator = u",";
+    controller.applicationWillBecomeActive();
+    EXPECT_EQ(shown(1234567.891), u"1.234.567,891\u20090");
+    EXPECT_EQ(controller.cDisplay().decimalSeparator(), u',');
+}
+
+TEST_F(WindowLines, GroupByTheSettings) {
+    const Text separators[]{u"1234.5678", u"1,234.567\u20098", u"1\u2009234.567\u20098",
+                            u"1 234.567 8", u"1234.5678"};
+    for (int mode = 0; mode < 5; ++mode) {
+        controller.setDigitGroupingSeparatorMode(mode);
+        controller.syncDisplays();
+        EXPECT_EQ(shown(1234.5678), separators[mode]) << mode;
+    }
+    const std::uint32_t sizes[]{3, 2, 2, 3, 4, 4, 4};
+    for (int mode = 0; mode < 7; ++mode) {
+        controller.setDigitGroupingDigitsMode(mode);
+        EXPECT_EQ(controller.xDisplay().groupingDigits(), sizes[mode]) << mode;
+        EXPECT_EQ(controller.settings().digitGroupingDigitsMode, mode);
+    }
+    platform.format.groupingSize = 0;
+    controller.setDigitGroupingDigitsMode(0);
+    EXPECT_EQ(controller.xDisplay().groupingDigits(), 3U);
+    // By mode, the integer bases have marks of their own.
+    controller.setDigitGroupingSeparatorMode(1);
+    const Text thin = u"\u2009";
+    const Text groups[]{u"\u2219", u",", u"\u2219", u"\u2219"};
+    for (int mode = 8; mode < 12; ++mode) {
+        controller.takeInputModeFrom(itemOf(mode));
+        EXPECT_EQ(controller.yDisplay().integerGroupingSeparator(), groups[mode - 8]) << mode;
+        EXPECT_EQ(controller.yDisplay().decimalGroupingSeparator(), mode == 11 ? u" " : thin);
+    }
+}
+
+TEST_F(WindowLines, TakeTheFontOfTheModeOrOfTheSetting) {
+    const NSFont proportional{.name = u"Lucida Grande", .size = 13.0};
+    const NSFont monospaced{.name = u"Excalibur Monospace", .size = 13.0};
+    const auto expectFont = [&](const NSFont& font) {
+        EXPECT_EQ(controller.xDisplay().textFont(), font);
+        EXPECT_EQ(controller.cDisplay().textFont(), font);
+    };
+    expectFont(proportional);
+    for (int mode = 0; mode < 13; ++mode) {
+        SCOPED_TRACE(mode);
+        controller.takeInputModeFrom(itemOf(mode));
+        expectFont(mode >= 8 && mode <= 11 ? monospaced : proportional);
+    }
+    controller.setFontMode(7);
+    EXPECT_EQ(controller.settings().fontMode, 2);
+    expectFont(monospaced);
+    controller.takeInputModeFrom(itemOf(8));
+    controller.setFontMode(1);
+    expectFont(proportional);
+}
+
+TEST_F(WindowLines, ShowAllFourWithTheTopLeftCornerAndTheKeyPadInPlace) {
+    WindowViews& views = controller.views();
+    const NSRect window{100, 300, 404, 233};
+    views.window.setFrame(window);
+    const NSRect keyPad = views.keyPad.view()->frame();
+    EXPECT_EQ(views.displayView->frame(), (NSRect{5, 168, 394, 41}));
+    EXPECT_TRUE(controller.xDisplay().labelField()->isHidden());
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(views.xyztButton->image(), u"xyztOn");
+        views.xyztButton->performClick();
+        EXPECT_EQ(views.window.frame(), (NSRect{100, 240, 404, 293}));
+        EXPECT_EQ(views.contentView->frame(), (NSRect{0, 0, 404, 271}));
+        EXPECT_EQ(views.displayView->frame(), (NSRect{5, 168, 394, 101}));
+        EXPECT_EQ(views.keyPad.view()->frame(), keyPad);
+        EXPECT_EQ(views.displayView->autoresizingMask(), NSViewWidthSizable | NSViewMinYMargin);
+        EXPECT_EQ(views.keyPad.view()->autoresizingMask(), NSViewMinYMargin);
+        EXPECT_EQ(controller.xDisplay().mantissaField()->frame(), (NSRect{31, 20, 319, 17}));
+        EXPECT_EQ(controller.tDisplay().mantissaField()->frame(), (NSRect{31, 80, 319, 17}));
+        EXPECT_FALSE(controller.xDisplay().labelField()->isHidden());
+        EXPECT_FALSE(controller.tDisplay().labelField()->isHidden());
+        EXPECT_EQ(views.xyztButton->image(), u"xyztOff");
+        views.xyztButton->performClick();
+        EXPECT_EQ(views.window.frame(), window);
+        EXPECT_EQ(views.displayView->frame(), (NSRect{5, 168, 394, 41}));
+        EXPECT_EQ(views.keyPad.view()->frame(), keyPad);
+        EXPECT_TRUE(controller.xDisplay().labelField()->isHidden());
+    }
+}
+
+TEST(DataExtensions, AreBigEndianBytes) {
+    using namespace DYXDataExtensions;
+    using Bytes = std::vector<std::uint8_t>;
+    const std::pair<double, Bytes> numbers[]{
+        {1.0, {0x3F, 0xF0, 0, 0, 0, 0, 0, 0}},
+        {-2.0, {0xC0, 0, 0, 0, 0, 0, 0, 0}},
+        {3.141592653589793, {0x40, 0x09, 0x21, 0xFB, 0x54, 0x44, 0x2D, 0x18}},
+        {-0.0, {0x80, 0, 0, 0, 0, 0, 0, 0}},
+        {DYXnan('L'), {0x7F, 0xF8, 0, 0, 0, 0, 0, 0x4C}},
+    };
+    for (auto [number, bytes] : numbers) {
+        const auto data = dataWithDouble(number);
+        EXPECT_EQ(Bytes(data.begin(), data.end()), bytes);
+        bytes.push_back(0xAA);  // only the first eight count
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(doubleValue(bytes)),
+                  std::bit_cast<std::uint64_t>(number));
+        bytes.resize(7);
+        EXPECT_EQ(doubleValue(bytes), 0.0);
+    }
+    const auto data = dataWithRect({1, -2, 0.1, 404});
+    Bytes bytes(data.begin(), data.end());
+    EXPECT_EQ(bytes,
+              (Bytes{0x3F, 0x80, 0, 0, 0xC0, 0, 0, 0, 0x3D, 0xCC, 0xCC, 0xCD, 0x43, 0xCA, 0, 0}));
+    bytes.push_back(0xAA);
+    EXPECT_EQ(rectValue(bytes), (NSRect{1, -2, static_cast<double>(0.1F), 404}));
+    bytes.resize(15);
+    EXPECT_EQ(rectValue(bytes), NSRect{});
+    EXPECT_EQ(doubleValue({}), 0.0);
+}
+
+}  // namespace
+}  // namespace talvex

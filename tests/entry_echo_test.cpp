@@ -1,0 +1,91 @@
+// The live entry on the X line, row by row.
+
+#include <gtest/gtest.h>
+
+#include "display/display_modes.h"
+#include "key_script.h"
+
+namespace talvex {
+namespace {
+
+struct EchoRow {
+    std::int32_t mode;
+    std::string_view keys;
+    std::string_view line;  // sign|mantissa|exponent sign|exponent
+    std::uint32_t digits = 4;
+    char16_t separator = u'.';
+};
+
+class EntryEcho : public testing::TestWithParam<EchoRow> {};
+
+TEST_P(EntryEcho, ShowsWhatWasTyped) {
+    const EchoRow& row = GetParam();
+    SCOPED_TRACE("mode " + std::to_string(row.mode) + ", " + std::string(row.keys));
+    KeyScript script;
+    script.inMode(row.mode);
+    script.calculator.xDisplay().setDigits(row.digits);
+    script.calculator.xDisplay().setDecimalSeparator(row.separator);
+    script.press(row.keys);
+    EXPECT_EQ(script.line(), row.line);
+    EXPECT_EQ(script.status(),
+              script.entry().inExponent() ? "entering exponent…" : "entering significand…");
+    EXPECT_EQ(script.entry().mantissaField()->alignment(),
+              isIntegerMode(row.mode) ? NSTextAlignment::right : NSTextAlignment::left);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Scientific, EntryEcho,
+    testing::Values(
+        EchoRow{mode::FIX, "1 2 3 4 5 6 7", "|1234567||"}, EchoRow{mode::SCI, ".", "|.||"},
+        EchoRow{mode::FIX, "1 .", "|1.||"}, EchoRow{mode::FIX, "1 . 5 CHS", "-|1.5||"},
+        EchoRow{mode::ENG, "1 . 5", "|1,5||", 4, u','},
+        EchoRow{mode::MON, "1 . 5", "|1\u066B5||", 4, u'\u066B'},
+        EchoRow{mode::SCI, "EEX", "|1||00"}, EchoRow{mode::SCI, "EEX 5", "|1| |05"},
+        EchoRow{mode::SCI, "EEX CHS", "|1||00"}, EchoRow{mode::SCI, "EEX CHS 5", "|1|-|05"},
+        EchoRow{mode::SCI, "EEX BACK", "|1||"}, EchoRow{mode::SCI, "2 EEX .", "|2.||00"},
+        EchoRow{mode::IRR, "2 E-09 EEX", "|2|-|09"},
+        EchoRow{mode::SCI, "1 . 2 ENTER EEX", "|1.||00"}, EchoRow{13, "EEX 4", "|1||00"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    TimesAndAngles, EntryEcho,
+    testing::Values(EchoRow{mode::HMS, "1", "|1||"}, EchoRow{mode::HMS, "1 2", "|12 : ||"},
+                    EchoRow{mode::HMS, "1 2 3", "|12 : 3||"},
+                    EchoRow{mode::HMS, "1 2 3 4 5 6", "|12 : 34 : 56||"},
+                    EchoRow{mode::HMS, "1 2 3 4 5 6 7 CHS", "-|12 : 34 : 56.7||"},
+                    EchoRow{mode::HMS, "1 2 3 4 5 6 7", "|12 : 34 : 56,7||", 4, u','},
+                    EchoRow{mode::DMS, "1 2", "|12||"}, EchoRow{mode::DMS, "1 2 3", "|123° ||"},
+                    EchoRow{mode::DMS, "1 2 3 4 5", "|123° 45' ||"},
+                    EchoRow{mode::DMS, "1 2 3 4 5 6", "|123° 45' 6||"},
+                    EchoRow{mode::DMS, "1 2 3 4 5 6 7", "|123° 45' 67\"||"},
+                    EchoRow{mode::DMS, "1 2 3 4 5 6 7 8", "|123° 45' 67.8\"||"},
+                    EchoRow{mode::DMS, "1 2 3 4 5 6 7 8", "|123° 45' 67,8\"||", 4, u','}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Fractions, EntryEcho,
+    testing::Values(
+        EchoRow{mode::FRC, "5", "|5||"}, EchoRow{mode::FRC, "5 .", "|5  0/1||"},
+        EchoRow{mode::FRC, "5 . 3", "|5  3/1||"}, EchoRow{mode::FRC, "5 . 3 .", "|5  3/||"},
+        EchoRow{mode::FRC, "5 . 3 . 8 CHS", "-|5  3/8||"},
+        EchoRow{mode::FRC, "5 . . 8", "|5  0/8||"}, EchoRow{mode::FRC, ".", "|  0/1||"},
+        EchoRow{mode::CAR, ".", "|  0/16||"}, EchoRow{mode::CAR, "5 . 3", "|5  3/16||"},
+        EchoRow{mode::CAR, "5 . 3", "|5  3/1||", 0}, EchoRow{mode::CAR, "5 . 3", "|5  3/512||", 9},
+        EchoRow{mode::CAR, "5 . 3", "|5  3/||", 10}, EchoRow{mode::CAR, "5 . 3 . 8", "|5  3/8||"}));
+
+INSTANTIATE_TEST_SUITE_P(Integers, EntryEcho,
+                         testing::Values(EchoRow{mode::HEX, "d E a D", "|dEaD||hex"},
+                                         EchoRow{mode::OCT, "0 1 7", "|017||oct"},
+                                         EchoRow{mode::BIN, "0 1 1", "|011||bin"},
+                                         EchoRow{mode::DEC, "1 2 3 4 CHS", "|-1234||dec"}));
+
+TEST(EntryEchoLine, KeepsTheColorOfTheLine) {
+    KeyScript script;
+    script.calculator.xDisplay().setTextColor(DYXOutputDisplay::errorColor());
+    script.press("1");
+    EXPECT_EQ(script.entry().mantissaField()->textColor(), DYXOutputDisplay::errorColor());
+    script.press("ENTER");
+    EXPECT_EQ(script.entry().mantissaField()->textColor(), NSColor::black());
+    EXPECT_EQ(script.status(), "");
+}
+
+}  // namespace
+}  // namespace talvex

@@ -1,0 +1,146 @@
+// What an entry is worth, and how it is echoed, row by row.
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <vector>
+
+#include "display/display_modes.h"
+#include "key_script.h"
+#include "numeric/DYXnan.h"
+
+namespace talvex {
+namespace {
+
+struct ValueRow {
+    std::int32_t mode;
+    std::string_view keys;
+    double value;
+    std::uint32_t digits = 4;
+};
+
+class EntryValue : public testing::TestWithParam<ValueRow> {};
+
+TEST_P(EntryValue, IsTheNumberThatWasTyped) {
+    KeyScript script;
+    script.inMode(GetParam().mode);
+    script.calculator.xDisplay().setDigits(GetParam().digits);
+    script.press(GetParam().keys);
+    const double value = script.entry().doubleValue();
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(value), std::bit_cast<std::uint64_t>(GetParam().value))
+        << "mode " << GetParam().mode << ", " << GetParam().keys << ": " << value;
+}
+
+constexpr double kHour = 12.0 + 34.0 / 60.0;
+
+INSTANTIATE_TEST_SUITE_P(
+    Scientific, EntryValue,
+    testing::Values(
+        ValueRow{mode::FIX, "1 . 5 E-03", 0.0015}, ValueRow{mode::SCI, "1 2 . 3 4 E+03", 12340.0},
+        ValueRow{mode::FIX, "1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9", 1234567890123456789.0},
+        ValueRow{mode::ENG, ". 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9", 0.1234567890123456789},
+        ValueRow{mode::FIX, "9 0 0 7 1 9 9 2 5 4 7 4 0 9 9 3", 9007199254740992.0},
+        ValueRow{mode::FIX, "9 0 0 7 1 9 9 2 5 4 7 4 0 9 9 5", 9007199254740996.0},
+        ValueRow{mode::IRR, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 EEX 9 9",
+                 9999999999999999999e99},
+        ValueRow{mode::FIX, "0 CHS", -0.0}, ValueRow{mode::FIX, ". 5", 0.5},
+        ValueRow{mode::FIX, "EEX", 1.0}, ValueRow{mode::FIX, "1 . 2 CLR EEX", 1.0},
+        ValueRow{mode::MON, "1 . 0 0 5", 1.0, 2}, ValueRow{mode::MON, "2 . 6 7 5", 2.67, 2},
+        ValueRow{mode::MON, "1 . 5", 2.0, 0}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Integers, EntryValue,
+    testing::Values(ValueRow{mode::HEX, "F F", 255.0}, ValueRow{mode::HEX, "f F a", 4090.0},
+                    ValueRow{mode::HEX, "f f f f f f f f", 4294967295.0},
+                    ValueRow{mode::HEX, "1 0 0 0 0 0 0 0 0", 4294967295.0},
+                    ValueRow{mode::OCT, "7 7 7", 511.0},
+                    ValueRow{mode::OCT, "7 7 7 7 7 7 7 7 7 7 7 7 7", 4294967295.0},
+                    ValueRow{mode::DEC, "5 CHS", -5.0},
+                    ValueRow{mode::DEC, "2 1 4 7 4 8 3 6 4 8", 2147483647.0},
+                    ValueRow{mode::DEC, "2 1 4 7 4 8 3 6 4 8 CHS", -2147483648.0},
+                    ValueRow{mode::DEC, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 CHS", -2147483648.0},
+                    ValueRow{mode::BIN, "1 0 1", 5.0},
+                    ValueRow{mode::BIN,
+                             "1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1",
+                             4294967295.0}));
+
+INSTANTIATE_TEST_SUITE_P(
+    TimesAndAngles, EntryValue,
+    testing::Values(ValueRow{mode::HMS, "1", 1.0}, ValueRow{mode::HMS, "1 2 3", 12.0 + 3.0 / 60.0},
+                    ValueRow{mode::HMS, "1 2 3 4 5 6", kHour + 56.0 / 3600.0},
+                    ValueRow{mode::HMS, "1 2 3 4 5", kHour + 5.0 / 3600.0},
+                    ValueRow{mode::HMS, "1 2 3 4 5 6 7 8", kHour + 56.78 / 3600.0},
+                    ValueRow{mode::HMS, "0 1 3 0 CHS", 22.5},
+                    ValueRow{mode::HMS, "0 0 9 9", 99.0 / 60.0}, ValueRow{mode::HMS, ".", 0.0},
+                    ValueRow{mode::DMS, "0 9 0 3 0 0 0", 90.5},
+                    ValueRow{mode::DMS, "0 9 0 3 0 0 0 CHS", 269.5},
+                    ValueRow{mode::DMS, "1 2", 12.0},
+                    ValueRow{mode::DMS, "0 0 1 0 0 0 1 5", 1.0 + 1.5 / 3600.0}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Fractions, EntryValue,
+    testing::Values(ValueRow{mode::FRC, "5", 5.0}, ValueRow{mode::FRC, "5 . 3", 8.0},
+                    ValueRow{mode::FRC, "1 . 3 . 8", 1.375}, ValueRow{mode::FRC, "1 . . 8", 1.0},
+                    ValueRow{mode::FRC, "1 . 3 . 8 CHS", -1.375},
+                    ValueRow{mode::FRC, "0 CHS", -0.0}, ValueRow{mode::FRC, "1 . 3 . 0", INFINITY},
+                    ValueRow{mode::FRC, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9",
+                             9223372036854775807.0},
+                    ValueRow{mode::CAR, "5 . 3", 5.0 + 3.0 / 16.0},
+                    ValueRow{mode::CAR, ". 5", 0.625, 3}, ValueRow{mode::CAR, ". 5", 5.0, 0},
+                    ValueRow{mode::CAR, ". 5 1 1", 511.0 / 512.0, 9},
+                    ValueRow{mode::CAR, "1 . 1 . 4", 1.25},
+                    ValueRow{mode::CAR, ". 1", 1.0 / 2147483647.0, 4000000000U}));
+
+TEST(EntryValueErrors, AnUnreadableEntryIsAnInputError) {
+    struct Row {
+        std::int32_t typedIn;
+        std::string_view keys;
+        std::vector<std::int32_t> unreadableIn;
+    };
+    const std::vector<Row> rows{
+        {mode::FIX,
+         ".",
+         {mode::FIX, mode::SCI, mode::ENG, mode::MON, mode::IRR, mode::HEX, mode::OCT, mode::DEC,
+          13, -1}},
+        {mode::HEX,
+         "A 1",
+         {mode::FIX, mode::SCI, mode::MON, mode::IRR, mode::HMS, mode::DMS, mode::DEC, mode::OCT,
+          mode::BIN, 99}},
+        {mode::DEC, "1 9", {mode::OCT, mode::BIN}},
+    };
+    for (const Row& row : rows) {
+        for (const std::int32_t mode : row.unreadableIn) {
+            SCOPED_TRACE(std::string(row.keys) + " in mode " + std::to_string(mode));
+            KeyScript script;
+            script.inMode(row.typedIn);
+            script.press(row.keys);
+            script.inMode(mode);
+            script.press("ENTER");
+            ASSERT_TRUE(std::isnan(script.x()));
+            EXPECT_EQ(utf8(DYXnanString(script.x())), "input error");
+            EXPECT_EQ(script.line(), "|input error||");
+        }
+    }
+}
+
+TEST(EntryValueErrors, AFractionReadsUpToTheFirstLetter) {
+    KeyScript script;
+    script.inMode(mode::HEX);
+    script.press("1 2 A 4");
+    script.inMode(mode::FRC);
+    EXPECT_EQ(script.entry().doubleValue(), 12.0);
+}
+
+TEST(EntryValueErrors, ASignFromAnotherModeNegatesModuloTheWord) {
+    KeyScript script;
+    script.press("5 CHS");
+    script.inMode(mode::HEX);
+    EXPECT_EQ(script.entry().doubleValue(), 4294967291.0);
+    script.inMode(mode::DMS);
+    EXPECT_EQ(script.entry().doubleValue(), 355.0);
+}
+
+}  // namespace
+}  // namespace talvex

@@ -1,0 +1,245 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <utility>
+
+#include "core/DYXCalculator.h"
+#include "display/DYXOutputDisplay.h"
+#include "display/ZUMutableStringExtensions.h"
+#include "display/display_modes.h"
+#include "numeric/DYXnan.h"
+
+namespace talvex {
+namespace {
+
+using Text = std::u16string;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+// What a line shows, slot by slot.
+struct Shown {
+    Text mantissa = {};
+    Text exponent = {};
+    Text exponentSign = {};
+    Text sign = {};
+    Text status = {};
+    bool operator==(const Shown&) const = default;
+};
+
+void PrintTo(const Shown& shown, std::ostream* out) {
+    for (const Text& text : {shown.sign, shown.mantissa, shown.exponentSign, shown.exponent}) {
+        *out << testing::PrintToString(text) << ' ';
+    }
+    *out << testing::PrintToString(shown.status);
+}
+
+Shown shownBy(const DYXOutputDisplay& line) {
+    const auto textOf = [](const TextSlot& slot) { return slot ? slot->stringValue() : Text(); };
+    return {.mantissa = textOf(line.mantissaField()),
+            .exponent = textOf(line.exponentField()),
+            .exponentSign = textOf(line.exponentSignField()),
+            .sign = textOf(line.mantissaSignField()),
+            .status = textOf(line.statusField())};
+}
+
+struct FormatRow {
+    const char* name;
+    std::int32_t mode;
+    std::uint32_t digits;
+    double number;
+    Shown shown;
+    Text integerSeparator = {};
+    Text decimalSeparator = {};
+    char16_t point = u'.';
+};
+
+TEST(PlainFormats, FillEverySlot) {
+    const FormatRow rows[]{
+        {"grouped", mode::FIX, 4, 1234567.891, {u"1,234,567.891\u20090"}, u",", u"\u2009"},
+        {"ungrouped", mode::FIX, 4, 1234.5678, {u"1234.5678"}},
+        {"rounds up to a digit", mode::FIX, 4, 0.00005, {u"0.0001"}},
+        {"too small to show", mode::FIX, 4, 0.00004, {u"4.0000", u"05", u"-"}},
+        {"too long", mode::FIX, 4, 1e300, {u"1.0000", u"300"}},
+        {"19 characters", mode::FIX, 4, 99999999999999, {u"99999999999999.0000"}},
+        {"20 characters", mode::FIX, 4, 100000000000000, {u"1.0000", u"14"}},
+        {"19 whole digits", mode::FIX, 0, 9999000000000000000.0, {u"9999000000000000000"}},
+        {"20 whole digits", mode::FIX, 0, 1e19, {u"1", u"19"}},
+        {"9 digits, 9 places", mode::FIX, 9, 999999999, {u"999999999.000000000"}},
+        {"10 digits, 9 places", mode::FIX, 9, 1000000000, {u"1.000000000", u"09"}},
+        {"fixed zero", mode::FIX, 4, 0.0, {u"0.0000"}},
+        {"tie to even", mode::FIX, 0, 2.5, {u"2"}},
+        {"prints as zero", mode::FIX, 0, 0.4, {u"4", u"01", u"-"}},
+        {"point as group", mode::FIX, 4, 1234567.891, {u"1.234.567,891_0"}, u".", u"_", u','},
+        {"other point", mode::FIX, 1, 1234.5, {u"123,4\u066B5"}, u",", u"_", u'\u066B'},
+        {"SCI in threes", mode::SCI, 4, 1234.5678, {u"1.234\u20096", u"03"}, u"", u"\u2009"},
+        {"SCI zero", mode::SCI, 4, 0.0, {u"0.0000", u"00"}},
+        {"SCI small", mode::SCI, 4, 1e-100, {u"1.0000", u"100", u"-"}},
+        {"SCI large", mode::SCI, 4, 1.23e100, {u"1.2300", u"100"}},
+        {"SCI carry", mode::SCI, 4, 999.99999, {u"1.0000", u"03"}},
+        {"SCI without point", mode::SCI, 0, 0.5, {u"5", u"01", u"-"}},
+        {"SCI full groups", mode::SCI, 9, 1234.5678, {u"1,234_567_800", u"03"}, u".", u"_", u','},
+    };
+    for (const FormatRow& row : rows) {
+        SCOPED_TRACE(row.name);
+        DYXOutputDisplay line(DYXCalculator::plainFields());
+        line.setOutputMode(row.mode);
+        line.setDigits(row.digits);
+        line.setDecimalSeparator(row.point);
+        line.setIntegerGroupingSeparator(row.integerSeparator);
+        line.setDecimalGroupingSeparator(row.decimalSeparator);
+        Shown negative = row.shown;
+        negative.sign = u"-";
+        line.setOutputTo(-row.number);
+        EXPECT_EQ(shownBy(line), negative);
+        line.setOutputTo(row.number);
+        EXPECT_EQ(shownBy(line), row.shown);
+    }
+}
+
+TEST(PlainFormats, MeasureTheLengthAfterRounding) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    line.setDigits(6);
+    line.setMaxDigits(10);
+    line.setOutputTo(999.9999994);
+    EXPECT_EQ(shownBy(line), (Shown{u"999.999999"}));
+    line.setOutputTo(999.9999996);
+    EXPECT_EQ(shownBy(line), (Shown{u"1.000000", u"03"}));
+}
+
+TEST(PlainFormats, GroupBySizeButScientificAlwaysByThree) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    line.setGroupingSeparator(u"_");
+    const std::pair<std::uint32_t, Text> rows[]{{0, u"12345.6789"},
+                                                {1, u"1_2_3_4_5.6_7_8_9"},
+                                                {2, u"1_23_45.67_89"},
+                                                {4, u"1_2345.6789"},
+                                                {4'000'000'000U, u"12345.6789"}};
+    for (const auto& [size, text] : rows) {
+        line.setGroupingDigits(size);
+        line.setFixedTo(12345.6789);
+        EXPECT_EQ(shownBy(line), (Shown{text})) << size;
+        line.setScientificTo(12345.6789);
+        EXPECT_EQ(shownBy(line), (Shown{u"1.234_6", u"04"})) << size;
+    }
+}
+
+TEST(PlainFormats, BoundTheirTextWhateverThePrecision) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    for (const std::uint32_t digits : {1075U, 4'000'000'000U, 4'294'967'295U}) {
+        line.setDigits(digits);
+        line.setMaxDigits(19);
+        line.setOutputTo(1.0);
+        EXPECT_EQ(shownBy(line), (Shown{u"1." + Text(1074, u'0'), u"00"}));
+        line.setMaxDigits(4'294'967'295U);
+        line.setOutputTo(-1.0);
+        EXPECT_EQ(shownBy(line), (Shown{u"1." + Text(1074, u'0'), u"", u"", u"-"}));
+    }
+}
+
+TEST(DigitGroups, StandBehindFullGroupsOnly) {
+    using namespace ZUMutableStringExtensions;
+    const struct {
+        Text text, separator;
+        std::uint32_t size;
+        Text decimals, integers;
+    } rows[]{
+        {u"123456.123456", u"_", 3, u"123456.123_456", u"123_456.123456"},
+        {u"1234,1234", u"ab", 3, u"1234,123ab4", u"1ab234,1234"},
+        {u"1234567", u"_", 3, u"1234567", u"1_234_567"},
+        {u"1234.", u"_", 2, u"1234.", u"12_34."},
+        {u"1.23", u"", 1, u"1.23", u"1.23"},
+        {u"12.34", u"_", 0, u"12.34", u"12.34"},
+        {u"", u"_", 3, u"", u""},
+        {u".1234", u"_", 3, u".123_4", u".1234"},
+    };
+    for (const auto& row : rows) {
+        Text decimals = row.text;
+        insertDecimalSeparatorEvery(decimals, row.separator, row.size);
+        EXPECT_EQ(decimals, row.decimals);
+        Text integers = row.text;
+        insertIntegerSeparatorEvery(integers, row.separator, row.size);
+        EXPECT_EQ(integers, row.integers);
+    }
+    Text text = u"a--b---c";
+    replaceOccurancesOfStringWithCharacter(text, u"--", u'-');
+    EXPECT_EQ(text, u"a-b--c");
+}
+
+TEST(OutputDisplay, ShowsErrorsAndInfinitiesAsWordsInAnyMode) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    for (const std::int32_t number : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, -1}) {
+        SCOPED_TRACE(number);
+        line.setOutputMode(mode::SCI);
+        line.setOutputTo(-1e-20);
+        line.statusField()->setStringValue(u"old");
+        line.setTextColor(DYXOutputDisplay::errorColor());
+        line.setOutputMode(number);
+        line.setOutputTo(-DYXnan('L'));
+        EXPECT_EQ(shownBy(line), (Shown{u"log error"}));
+        EXPECT_EQ(line.mantissaField()->textColor(), NSColor::black());
+        line.setOutputTo(kInfinity);
+        EXPECT_EQ(shownBy(line), (Shown{u"\u221E"}));
+        line.setOutputTo(-kInfinity);
+        EXPECT_EQ(shownBy(line), (Shown{u"\u221E", u"", u"", u"-"}));
+    }
+}
+
+TEST(OutputDisplay, LeavesTheSlotsInAnUnknownMode) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    line.setOutputTo(-1.5);
+    const Shown before = shownBy(line);
+    for (const std::int32_t number : {13, -1, 2147483647, -2147483647 - 1}) {
+        line.setOutputMode(number);
+        line.mantissaField()->setAlignment(NSTextAlignment::center);
+        line.setOutputTo(42.0);
+        EXPECT_EQ(shownBy(line), before) << number;
+        EXPECT_EQ(line.mantissaField()->alignment(), NSTextAlignment::center) << number;
+        EXPECT_EQ(line.outputModeTitle(), u"???") << number;
+        EXPECT_EQ(inputModeTitle(number), u"???") << number;
+    }
+}
+
+TEST(OutputDisplay, TitlesAndAlignsByMode) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    const Text names[]{u"FIX", u"SCI", u"ENG", u"MON", u"FRC", u"CAR", u"HMS",
+                       u"DMS", u"HEX", u"DEC", u"OCT", u"BIN", u"IRR"};
+    for (std::int32_t number = 0; number < 13; ++number) {
+        SCOPED_TRACE(number);
+        line.setOutputMode(number);
+        line.updateOutputJustification();
+        const bool isInteger = number >= 8 && number <= 11;
+        EXPECT_EQ(line.mantissaField()->alignment(),
+                  isInteger ? NSTextAlignment::right : NSTextAlignment::left);
+        EXPECT_EQ(line.outputModeTitle(), names[number] + u'\u25B8');
+        EXPECT_EQ(inputModeTitle(number), u'\u25B8' + names[number]);
+    }
+}
+
+TEST(OutputDisplay, ColoursAndFontsItsOwnSlots) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    const NSColor red{.red = 137.0 / 255, .green = 19.0 / 255, .blue = 21.0 / 255, .alpha = 1};
+    EXPECT_EQ(DYXOutputDisplay::errorColor(), red);
+    line.setTextColor(red);
+    const NSFont font{.name = u"Some Font", .size = 20};
+    const NSFont otherFont = line.statusField()->font();
+    line.setTextFont(font);
+    for (const TextSlot& slot : {line.mantissaField(), line.mantissaSignField(),
+                                 line.exponentField(), line.exponentSignField()}) {
+        EXPECT_EQ(slot->textColor(), red);
+        EXPECT_EQ(slot->font(), font);
+    }
+    EXPECT_EQ(line.textFont(), font);
+    EXPECT_EQ(line.labelField()->textColor(), red);
+    EXPECT_EQ(line.statusField()->textColor(), NSColor::black());
+    EXPECT_EQ(line.labelField()->font(), otherFont);
+    EXPECT_EQ(line.statusField()->font(), otherFont);
+    line.setTextColor(std::nullopt);
+    EXPECT_EQ(line.exponentField()->textColor(), NSColor::black());
+}
+
+}  // namespace
+}  // namespace talvex
