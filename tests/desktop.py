@@ -68,6 +68,12 @@ def running(command, **options):
         process.wait()
 
 
+def has_window_manager():
+    """Windows that are mapped before it is ready may stay unmanaged."""
+    answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True)
+    return b"window id" in answer.stdout
+
+
 @contextlib.contextmanager
 def desktop(size="1280x1024x24"):
     """An X server with a window manager; DISPLAY leads to it."""
@@ -78,6 +84,7 @@ def desktop(size="1280x1024x24"):
         with os.fdopen(reader) as numbers:
             os.environ["DISPLAY"] = ":" + numbers.readline().strip()
         with running(["openbox"], stderr=subprocess.DEVNULL):
+            wait_until(has_window_manager, "the window manager")
             yield Screen(os.environ["DISPLAY"])
 
 

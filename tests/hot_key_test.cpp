@@ -173,6 +173,9 @@ TEST(HotKeys, FollowTheDecimalSeparator) {
     // A key that is taken ahead of the points' rows stays what it is.
     hotKeys.followDecimalSeparator(u'=');
     EXPECT_EQ(hotKeys.find(u'=', {})->command, commandFromString(u"dataCHS "));
+    // A row with conditions doesn't take a key.
+    hotKeys.followDecimalSeparator(u'a');
+    EXPECT_EQ(hotKeys.find(u'a', {})->command, point);
 }
 
 }  // namespace

@@ -232,7 +232,6 @@ TEST_F(WindowControls, PowerKeysShowTheOrderOfTheirOperands) {
 TEST_F(WindowControls, TheDecimalKeyShowsTheSeparator) {
     const NSButton& key = button(u"data.   ");
     EXPECT_EQ(key.image(), u"pointSmall.tiff");
-    EXPECT_EQ(key.title(), u"");
     platform.format.decimalSeparator = u",";
     controller.applicationWillBecomeActive();
     EXPECT_EQ(key.image(), u"commaSmall.tiff");
