@@ -104,7 +104,7 @@ TEST_F(WindowLines, NeverGroupWithTheDecimalSeparator) {
     controller.setDecimalMode(1);
     EXPECT_EQ(shown(1234567.891), u"1,234,567.891\u20090");
     controller.setDecimalMode(0);
-    platform.format.decimalSeparator = u",";
+    platform.format.decimalSeparator.assign(1, u',');
     controller.applicationWillBecomeActive();
     EXPECT_EQ(shown(1234567.891), u"1.234.567,891\u20090");
     EXPECT_EQ(controller.cDisplay().decimalSeparator(), u',');
@@ -136,27 +136,6 @@ TEST_F(WindowLines, GroupByTheSettings) {
         EXPECT_EQ(controller.yDisplay().integerGroupingSeparator(), groups[mode - 8]) << mode;
         EXPECT_EQ(controller.yDisplay().decimalGroupingSeparator(), mode == 11 ? u" " : thin);
     }
-}
-
-TEST_F(WindowLines, TakeTheFontOfTheModeOrOfTheSetting) {
-    const NSFont proportional{.name = u"Lucida Grande", .size = 13.0};
-    const NSFont monospaced{.name = u"Excalibur Monospace", .size = 13.0};
-    const auto expectFont = [&](const NSFont& font) {
-        EXPECT_EQ(controller.xDisplay().textFont(), font);
-        EXPECT_EQ(controller.cDisplay().textFont(), font);
-    };
-    expectFont(proportional);
-    for (int mode = 0; mode < 13; ++mode) {
-        SCOPED_TRACE(mode);
-        controller.takeInputModeFrom(itemOf(mode));
-        expectFont(mode >= 8 && mode <= 11 ? monospaced : proportional);
-    }
-    controller.setFontMode(7);
-    EXPECT_EQ(controller.settings().fontMode, 2);
-    expectFont(monospaced);
-    controller.takeInputModeFrom(itemOf(8));
-    controller.setFontMode(1);
-    expectFont(proportional);
 }
 
 TEST_F(WindowLines, ShowAllFourWithTheTopLeftCornerAndTheKeyPadInPlace) {

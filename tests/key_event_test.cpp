@@ -119,17 +119,6 @@ TEST_F(Keyboard, KeepsAClickedInverseForTheNextKeys) {
     EXPECT_FALSE(controller.inverse);
 }
 
-TEST_F(Keyboard, ClearsHeldModifiersAfterAClickUntilTheyMove) {
-    hold(kControlKey);
-    click(u"unitABS ");
-    EXPECT_FALSE(controller.hyperbolic);
-    hold(kControlKey | kShiftKey);
-    setX(0);
-    press(u"S");
-    EXPECT_EQ(x(), 0);
-    EXPECT_TRUE(controller.hyperbolic && controller.inverse);
-}
-
 TEST_F(Keyboard, KeepsAStoreWithArithmeticThroughMovementsOfTheModifierKeys) {
     setX(5);
     controller.mem()[3] = 2;
@@ -147,17 +136,6 @@ TEST_F(Keyboard, KeepsAStoreWithArithmeticThroughMovementsOfTheModifierKeys) {
     EXPECT_EQ(button(u"memoSTO+").state(), 0);
 }
 
-TEST_F(Keyboard, ReachesTheUpperRegistersByShiftedDigits) {
-    setX(5);
-    hold(kControlKey | kOptionKey);
-    press(u"*");
-    EXPECT_EQ(controller.mem()[18], 5);
-    controller.mem()[11] = 111;
-    hold(kOptionKey | kShiftKey);
-    press(u"!");
-    EXPECT_EQ(x(), 111);
-}
-
 TEST_F(Keyboard, EscapePutsOutWhateverIsArmedAndNothingElse) {
     press(u"4");
     press(u"\x1B");
@@ -172,18 +150,6 @@ TEST_F(Keyboard, EscapePutsOutWhateverIsArmedAndNothingElse) {
         EXPECT_FALSE(controller.recall());
         EXPECT_EQ(button(armed).state(), 0);
     }
-}
-
-TEST_F(Keyboard, DropsWhatIsNoKey) {
-    const auto before = controller.stack().reg;
-    EXPECT_FALSE(press(u""));
-    EXPECT_FALSE(press(u"p"));
-    hold(kShiftKey);
-    EXPECT_FALSE(press(u"Z"));
-    EXPECT_FALSE(window().sendEvent({.type = NSKeyUp, .charactersIgnoringModifiers = u"5"}));
-    EXPECT_EQ(controller.stack().reg, before);
-    EXPECT_EQ(controller.inputState(), InputState::lifting);
-    EXPECT_EQ(platform.beeps, 0);
 }
 
 TEST_F(Keyboard, ReachesTheControllerFromEitherView) {

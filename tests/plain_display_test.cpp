@@ -100,16 +100,6 @@ TEST(PlainFormats, FillEverySlot) {
     }
 }
 
-TEST(PlainFormats, MeasureTheLengthAfterRounding) {
-    DYXOutputDisplay line(DYXCalculator::plainFields());
-    line.setDigits(6);
-    line.setMaxDigits(10);
-    line.setOutputTo(999.9999994);
-    EXPECT_EQ(shownBy(line), (Shown{u"999.999999"}));
-    line.setOutputTo(999.9999996);
-    EXPECT_EQ(shownBy(line), (Shown{u"1.000000", u"03"}));
-}
-
 TEST(PlainFormats, GroupBySizeButScientificAlwaysByThree) {
     DYXOutputDisplay line(DYXCalculator::plainFields());
     line.setGroupingSeparator(u"_");
@@ -188,21 +178,6 @@ TEST(OutputDisplay, ShowsErrorsAndInfinitiesAsWordsInAnyMode) {
     }
 }
 
-TEST(OutputDisplay, LeavesTheSlotsInAnUnknownMode) {
-    DYXOutputDisplay line(DYXCalculator::plainFields());
-    line.setOutputTo(-1.5);
-    const Shown before = shownBy(line);
-    for (const std::int32_t number : {13, -1, 2147483647, -2147483647 - 1}) {
-        line.setOutputMode(number);
-        line.mantissaField()->setAlignment(NSTextAlignment::center);
-        line.setOutputTo(42.0);
-        EXPECT_EQ(shownBy(line), before) << number;
-        EXPECT_EQ(line.mantissaField()->alignment(), NSTextAlignment::center) << number;
-        EXPECT_EQ(line.outputModeTitle(), u"???") << number;
-        EXPECT_EQ(inputModeTitle(number), u"???") << number;
-    }
-}
-
 TEST(OutputDisplay, TitlesAndAlignsByMode) {
     DYXOutputDisplay line(DYXCalculator::plainFields());
     const Text names[]{u"FIX", u"SCI", u"ENG", u"MON", u"FRC", u"CAR", u"HMS",
@@ -217,28 +192,6 @@ TEST(OutputDisplay, TitlesAndAlignsByMode) {
         EXPECT_EQ(line.outputModeTitle(), names[number] + u'\u25B8');
         EXPECT_EQ(inputModeTitle(number), u'\u25B8' + names[number]);
     }
-}
-
-TEST(OutputDisplay, ColoursAndFontsItsOwnSlots) {
-    DYXOutputDisplay line(DYXCalculator::plainFields());
-    const NSColor red{.red = 137.0 / 255, .green = 19.0 / 255, .blue = 21.0 / 255, .alpha = 1};
-    EXPECT_EQ(DYXOutputDisplay::errorColor(), red);
-    line.setTextColor(red);
-    const NSFont font{.name = u"Some Font", .size = 20};
-    const NSFont otherFont = line.statusField()->font();
-    line.setTextFont(font);
-    for (const TextSlot& slot : {line.mantissaField(), line.mantissaSignField(),
-                                 line.exponentField(), line.exponentSignField()}) {
-        EXPECT_EQ(slot->textColor(), red);
-        EXPECT_EQ(slot->font(), font);
-    }
-    EXPECT_EQ(line.textFont(), font);
-    EXPECT_EQ(line.labelField()->textColor(), red);
-    EXPECT_EQ(line.statusField()->textColor(), NSColor::black());
-    EXPECT_EQ(line.labelField()->font(), otherFont);
-    EXPECT_EQ(line.statusField()->font(), otherFont);
-    line.setTextColor(std::nullopt);
-    EXPECT_EQ(line.exponentField()->textColor(), NSColor::black());
 }
 
 }  // namespace

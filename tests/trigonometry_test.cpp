@@ -6,8 +6,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <span>
-#include <vector>
 
 #include "core/Comand.h"
 #include "core/function_tables.h"
@@ -44,9 +42,6 @@ constexpr AngleRow kAngles[]{
     {"GRD", 2, 0.015707963267948967, 200, 100}, {"HRS", 3, 0.2617993877991494, 12, 6},
     {"REV", 4, 6.283185307179586, 0.5, 0.25},
 };
-
-constexpr std::int32_t kUnknownModes[]{-1, 5, std::numeric_limits<std::int32_t>::min(),
-                                       std::numeric_limits<std::int32_t>::max()};
 
 constexpr Checked kForward[]{DYXsin, DYXcos, DYXtan, DYXcsc, DYXsec, DYXcot};
 constexpr Checked kArcs[]{DYXasin, DYXacos, DYXatan, DYXacsc, DYXasec, DYXacot};
@@ -87,22 +82,6 @@ TEST(ForwardFunctions, AreExactAtMultiplesOfAQuarterTurn) {
     }
 }
 
-TEST(ForwardFunctions, HaveNoToleranceBesideTheSpecialAngles) {
-    for (const AngleRow& row : kAngles) {
-        SCOPED_TRACE(row.title);
-        EXPECT_FALSE(DYXMultiplePi(row.mode, std::nextafter(row.halfTurn, 0.0)));
-        EXPECT_FALSE(DYXMultiplePi(row.mode, std::nextafter(row.halfTurn, kInfinity)));
-        EXPECT_FALSE(DYXOddMultiplePi2(row.mode, std::nextafter(row.quarterTurn, 0.0)));
-        EXPECT_FALSE(DYXOddMultiplePi2(row.mode, std::nextafter(row.quarterTurn, kInfinity)));
-        EXPECT_FALSE(DYXOddMultiplePi2(row.mode, DYXnan('L')));
-        EXPECT_FALSE(DYXMultiplePi(row.mode, DYXnan('L')));
-    }
-    EXPECT_FALSE(DYXMultiplePi(0, 3.14159265358979));
-    // An eighth of a turn isn't forced to a round value.
-    volatile double eighth = 45 * 0.017453292519943295;
-    EXPECT_EQ(DYXtan(contextOf(1), 45), std::tan(eighth));
-}
-
 TEST(ForwardFunctions, TreatHugeMultiplesAsHalfTurns) {
     EXPECT_TRUE(DYXOddMultiplePi2(1, 90 * 2147483647.0));
     EXPECT_TRUE(DYXOddMultiplePi2(1, -90 * 2147483647.0));
@@ -140,40 +119,6 @@ TEST(ArcFunctions, RefuseArgumentsOutsideTheirDomain) {
             }
             for (const double x : {1.0, -1.0, beyond, -beyond, kInfinity, -kInfinity}) {
                 EXPECT_TRUE(std::isfinite(function(context, x))) << x;
-            }
-        }
-    }
-}
-
-TEST(ArcFunctions, AnswerInTheAngleMode) {
-    for (const AngleRow& row : kAngles) {
-        SCOPED_TRACE(row.title);
-        const DYXMathContext context = contextOf(row.mode);
-        EXPECT_DOUBLE_EQ(DYXasin(context, 1), row.quarterTurn);
-        EXPECT_DOUBLE_EQ(DYXacos(context, -1), row.halfTurn);
-        EXPECT_DOUBLE_EQ(DYXatan(context, -1), -row.halfTurn / 4);
-        EXPECT_DOUBLE_EQ(DYXacsc(context, 2), row.halfTurn / 6);
-        EXPECT_DOUBLE_EQ(DYXasec(context, -1), row.halfTurn);
-        EXPECT_DOUBLE_EQ(DYXacot(context, -1), -row.halfTurn / 4);
-        EXPECT_DOUBLE_EQ(DYXacot(context, 0), row.quarterTurn);
-        EXPECT_DOUBLE_EQ(DYXacot(context, -0.0), row.quarterTurn);
-    }
-    EXPECT_EQ(DYXasin(contextOf(1), 1), 90.0);
-}
-
-TEST(UnknownAngleModes, CountAsRadians) {
-    for (const std::int32_t mode : kUnknownModes) {
-        SCOPED_TRACE(mode);
-        EXPECT_EQ(contextOf(mode).angleUnits(), 1.0);
-        EXPECT_TRUE(DYXMultiplePi(mode, kPi));
-        EXPECT_TRUE(DYXOddMultiplePi2(mode, kPi / 2));
-        EXPECT_FALSE(DYXMultiplePi(mode, 180));
-        for (const std::span<const Checked> family : {std::span(kForward), std::span(kArcs)}) {
-            for (const Checked function : family) {
-                for (const double x : {0.0, kPi / 2, kPi, -1.0, 0.25, 3.0}) {
-                    const double inRadians = function(contextOf(0), x);
-                    EXPECT_EQ(bitsOf(function(contextOf(mode), x)), bitsOf(inRadians)) << x;
-                }
             }
         }
     }

@@ -132,23 +132,6 @@ TEST_F(WindowControls, EveryKeyHasANameAndACommandThatDoesSomething) {
     EXPECT_EQ(commands.size(), keyPadRows().size());
 }
 
-TEST_F(WindowControls, KeysStandInsideTheKeyPadWithoutOverlap) {
-    const auto& keys = controller.views().keyPad.buttons();
-    const NSRect pad = controller.views().keyPad.view()->bounds();
-    for (std::size_t index = 0; index < keys.size(); ++index) {
-        const NSRect& a = keys[index]->frame();
-        EXPECT_TRUE(a.x >= 0 && a.y >= 0 && a.x + a.width <= pad.width &&
-                    a.y + a.height <= pad.height)
-            << index;
-        for (std::size_t other = 0; other < index; ++other) {
-            const NSRect& b = keys[other]->frame();
-            EXPECT_TRUE(a.x + a.width <= b.x || b.x + b.width <= a.x || a.y + a.height <= b.y ||
-                        b.y + b.height <= a.y)
-                << index << " and " << other;
-        }
-    }
-}
-
 TEST_F(WindowControls, SixKeysCarryLettersInHexInputAndExponentsElsewhere) {
     const struct {
         Text letter, hexCommand, command, image, alternateImage;
