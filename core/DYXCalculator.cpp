@@ -1,7 +1,5 @@
 #include "core/DYXCalculator.h"
 
-#include <span>
-
 #include "display/display_modes.h"
 #include "numeric/DYXRoundToDigits.h"
 
@@ -51,11 +49,6 @@ constexpr std::array<StackRow, 4> kStackMoves{{
 
 }  // namespace
 
-struct DYXCalculator::CategoryRow {
-    std::uint32_t category;
-    Handler handler;
-};
-
 DYXCalculator::DYXCalculator(Platform& platform, const DisplayFields& fields)
     : platform_(platform),
       xDisplay_(std::make_unique<DYXInputDisplay>(platform, fields)),
@@ -80,7 +73,7 @@ DisplayFields DYXCalculator::plainFields() {
 }
 
 void DYXCalculator::doCommand(const Comand& command) {
-    static constexpr std::array<CategoryRow, 10> kCategories{{
+    static constexpr std::array<HandlerRow, 10> kCategories{{
         {fourCC("bina"), &DYXCalculator::doCommandBinary},
         {fourCC("cons"), &DYXCalculator::doCommandConstant},
         {fourCC("data"), &DYXCalculator::doCommandDataEntry},
@@ -92,15 +85,21 @@ void DYXCalculator::doCommand(const Comand& command) {
         {fourCC("trin"), &DYXCalculator::doCommandTrinary},
         {fourCC("unit"), &DYXCalculator::doCommandUnitary},
     }};
-    for (const CategoryRow& row : kCategories) {
-        if (row.category == command.category) {
-            (this->*row.handler)(command);
-            break;
-        }
-    }
+    runHandler(kCategories, command.category, command);
     roundMonetaryX();
     updateDisplay();
     lastCommand_ = command;
+}
+
+bool DYXCalculator::runHandler(std::span<const HandlerRow> rows, std::uint32_t code,
+                               const Comand& command) {
+    for (const HandlerRow& row : rows) {
+        if (row.code == code) {
+            (this->*row.handler)(command);
+            return true;
+        }
+    }
+    return false;
 }
 
 void DYXCalculator::takeDYXButtonFrom(const NSButton& button) {

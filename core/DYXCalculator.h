@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <utility>
 
 #include "core/Comand.h"
@@ -89,8 +90,13 @@ class DYXCalculator : public DYXMathContext {
 
   private:
     using Handler = void (DYXCalculator::*)(const Comand&);
-    struct CategoryRow;
-    struct DataEntryRow;
+    struct HandlerRow {
+        std::uint32_t code;
+        Handler handler;
+    };
+
+    // Runs the handler of the code, and answers whether there is one.
+    bool runHandler(std::span<const HandlerRow> rows, std::uint32_t code, const Comand& command);
 
     void roundMonetaryX();
     void clearUsedModifiers(const Comand& command);

@@ -9,13 +9,8 @@
 
 namespace talvex {
 
-struct DYXCalculator::DataEntryRow {
-    std::uint32_t action;
-    Handler handler;
-};
-
 void DYXCalculator::doCommandDataEntry(const Comand& command) {
-    static constexpr std::array<DataEntryRow, 8> kActions{{
+    static constexpr std::array<HandlerRow, 8> kActions{{
         {fourCC(".   "), &DYXCalculator::doCommandDataEntryDecimal},
         {fourCC("BACK"), &DYXCalculator::doCommandDataEntryBackspace},
         {fourCC("EEX "), &DYXCalculator::doCommandDataEntryEEX},
@@ -25,11 +20,8 @@ void DYXCalculator::doCommandDataEntry(const Comand& command) {
         {fourCC("CLRG"), &DYXCalculator::doCommandDataEntryClearStack},
         {fourCC("CLAL"), &DYXCalculator::doCommandDataEntryClearAll},
     }};
-    for (const DataEntryRow& row : kActions) {
-        if (row.action == command.action) {
-            (this->*row.handler)(command);
-            return;
-        }
+    if (runHandler(kActions, command.action, command)) {
+        return;
     }
     if (characterOf(command.action, 0) == 'N') {
         doCommandDataEntryDigit(command);

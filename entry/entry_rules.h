@@ -17,6 +17,15 @@ struct DYXInputDisplay::Rules {
     bool (DYXInputDisplay::*setToDecimal)();
     double (DYXInputDisplay::*value)() const;
     void (DYXInputDisplay::*echo)();
+
+    // The same rules with another value and another echo.
+    [[nodiscard]] constexpr Rules with(double (DYXInputDisplay::*otherValue)() const,
+                                       void (DYXInputDisplay::*otherEcho)()) const {
+        Rules rules = *this;
+        rules.value = otherValue;
+        rules.echo = otherEcho;
+        return rules;
+    }
 };
 
 }  // namespace talvex

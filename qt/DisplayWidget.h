@@ -55,8 +55,6 @@ class PopUpWidget final : public QAbstractButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
   private:
     void showMenu();

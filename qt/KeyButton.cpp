@@ -36,6 +36,7 @@ KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
       group_(group),
       observer_(*this, record, [this] { setChecked(record_.state() != 0); }) {
     setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_Hover);
     setCheckable(isModifier());
     setChecked(record_.state() != 0);
     connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
@@ -43,16 +44,6 @@ KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
 }
 
 bool KeyButton::isModifier() const { return record_.showsStateBy() != NSNoCellMask; }
-
-void KeyButton::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void KeyButton::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
-    update();
-}
 
 void KeyButton::mousePressEvent(QMouseEvent* event) {
     QAbstractButton::mousePressEvent(event);

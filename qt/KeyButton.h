@@ -15,8 +15,6 @@ class KeyButton final : public QAbstractButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     // The record's state decides whether the key is on.
     void nextCheckState() override {}

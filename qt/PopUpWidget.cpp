@@ -17,6 +17,7 @@ const QColor kDown(0x2A, 0x2F, 0x1E, 0x48);
 PopUpWidget::PopUpWidget(NSPopUpButton& record, QWidget* parent)
     : QAbstractButton(parent), record_(record), observer_(*this, record) {
     setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_Hover);
     connect(this, &QAbstractButton::pressed, this, &PopUpWidget::showMenu);
 }
 
@@ -33,16 +34,6 @@ void PopUpWidget::showMenu() {
     }
     connect(menu, &QMenu::aboutToHide, this, [this] { setDown(false); });
     menu->popup(mapToGlobal(rect().bottomLeft()));
-}
-
-void PopUpWidget::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void PopUpWidget::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
-    update();
 }
 
 void PopUpWidget::paintEvent(QPaintEvent* /*event*/) {

@@ -24,6 +24,7 @@ constexpr double kHoverRadius = 4.0;
 TitleBarButton::TitleBarButton(Sign sign, const QString& name, QWidget* parent)
     : QAbstractButton(parent), sign_(sign) {
     setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_Hover);
     setAccessibleName(name);
     setToolTip(name);
 }
@@ -32,17 +33,8 @@ TitleBarButton::TitleBarButton(NSButton& record, QWidget* parent)
     : QAbstractButton(parent), record_(&record) {
     observer_.emplace(*this, record);
     setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_Hover);
     connect(this, &QAbstractButton::clicked, this, [this] { record_->performClick(); });
-}
-
-void TitleBarButton::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void TitleBarButton::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
-    update();
 }
 
 void TitleBarButton::paintEvent(QPaintEvent* /*event*/) {

@@ -20,8 +20,6 @@ class TitleBarButton final : public QAbstractButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
   private:
     void paintSign(QPainter& painter, const QColor& color) const;
