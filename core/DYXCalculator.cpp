@@ -8,22 +8,22 @@ namespace {
 
 // Which modifiers a press of a key leaves as they are; it clears the others.
 struct KeptModifiers {
-    std::uint32_t category;
-    std::uint32_t action;
-    bool inverseAndHyperbolic;
-    bool recall;
-    bool store;
+    std::uint32_t category = 0;
+    std::uint32_t action = 0;
+    bool inverseAndHyperbolic = false;
+    bool recall = false;
+    bool store = false;
 };
 
 constexpr std::array<KeptModifiers, 8> kKeptModifiers{{
-    {fourCC("modi"), fourCC("ARC "), true, false, false},
-    {fourCC("modi"), fourCC("HYP "), true, false, false},
-    {fourCC("memo"), fourCC("RCL "), false, true, false},
-    {fourCC("memo"), fourCC("STO "), false, false, true},
-    {fourCC("memo"), fourCC("STO+"), false, false, true},
-    {fourCC("memo"), fourCC("STO-"), false, false, true},
-    {fourCC("memo"), fourCC("STO*"), false, false, true},
-    {fourCC("memo"), fourCC("STO/"), false, false, true},
+    {.category = fourCC("modi"), .action = fourCC("ARC "), .inverseAndHyperbolic = true},
+    {.category = fourCC("modi"), .action = fourCC("HYP "), .inverseAndHyperbolic = true},
+    {.category = fourCC("memo"), .action = fourCC("RCL "), .recall = true},
+    {.category = fourCC("memo"), .action = fourCC("STO "), .store = true},
+    {.category = fourCC("memo"), .action = fourCC("STO+"), .store = true},
+    {.category = fourCC("memo"), .action = fourCC("STO-"), .store = true},
+    {.category = fourCC("memo"), .action = fourCC("STO*"), .store = true},
+    {.category = fourCC("memo"), .action = fourCC("STO/"), .store = true},
 }};
 
 KeptModifiers keptBy(const Comand& command) {
