@@ -46,9 +46,9 @@ void multiplyByPower(Limbs& limbs, std::uint32_t base, int exponent, int step) {
 
 std::string decimalDigits(const Limbs& limbs) {
     std::string digits;
-    for (auto limb = limbs.rbegin(); limb != limbs.rend(); ++limb) {
-        const std::string part = std::to_string(*limb);
-        digits += std::string(kLimbDigits - part.size(), '0') + part;
+    for (const auto limb : limbs) {
+        const std::string part = std::to_string(limb);
+        digits.insert(0, std::string(kLimbDigits - part.size(), '0') + part);
     }
     return digits;
 }
@@ -164,12 +164,12 @@ ExactDecimal::Scientific ExactDecimal::scientific(int places) const {
     return {.mantissa = withPoint(digits, places), .exponent = leadingPower() + carry};
 }
 
-std::strong_ordering ExactDecimal::operator<=>(const ExactDecimal& other) const {
+bool ExactDecimal::operator<(const ExactDecimal& other) const {
     if (isZero() || other.isZero()) {
-        return other.isZero() <=> isZero();
+        return isZero() && !other.isZero();
     }
-    const auto powers = leadingPower() <=> other.leadingPower();
-    return powers != 0 ? powers : digits_.compare(other.digits_) <=> 0;
+    return leadingPower() != other.leadingPower() ? leadingPower() < other.leadingPower()
+                                                  : digits_ < other.digits_;
 }
 
 ExactDecimal midpointAbove(double value) {
@@ -179,18 +179,18 @@ ExactDecimal midpointAbove(double value) {
 
 bool isNearestDouble(double value, const ExactDecimal& number) {
     if (std::isinf(value)) {
-        return number >= midpointAbove(std::numeric_limits<double>::max());
+        return !(number < midpointAbove(std::numeric_limits<double>::max()));
     }
     const bool isEven = binaryOf(value).mantissa % 2 == 0;
     const ExactDecimal above = midpointAbove(value);
-    if (number > above || (number == above && !isEven)) {
+    if (above < number || (number == above && !isEven)) {
         return false;
     }
     if (value == 0.0) {
         return true;
     }
     const ExactDecimal below = midpointBelow(value);
-    return number > below || (number == below && isEven);
+    return below < number || (number == below && isEven);
 }
 
 }  // namespace talvex

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <string>
 
@@ -30,7 +29,7 @@ class ExactDecimal {
     // One digit and that many decimals, ties to even.
     [[nodiscard]] Scientific scientific(int places) const;
 
-    std::strong_ordering operator<=>(const ExactDecimal& other) const;
+    bool operator<(const ExactDecimal& other) const;
     bool operator==(const ExactDecimal& other) const = default;
 
   private:

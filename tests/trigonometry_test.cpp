@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -67,7 +68,8 @@ TEST(ForwardFunctions, AreExactAtMultiplesOfAQuarterTurn) {
         for (int quarters = -9; quarters <= 9; ++quarters) {
             SCOPED_TRACE(testing::Message() << quarters << " quarter turns in " << row.title);
             const bool isOdd = quarters % 2 != 0;
-            const double x = isOdd ? quarters * row.quarterTurn : quarters / 2 * row.halfTurn;
+            const int halves = quarters / 2;
+            const double x = isOdd ? quarters * row.quarterTurn : halves * row.halfTurn;
             EXPECT_EQ(DYXMultiplePi(row.mode, x), !isOdd);
             EXPECT_EQ(DYXOddMultiplePi2(row.mode, x), isOdd);
             if (isOdd) {
@@ -154,16 +156,12 @@ TEST(GenericFunctions, ChooseByTheModifiers) {
 
 // Of the rows of the tables, those that go through integers or series hand no error on.
 bool handsErrorsOn(std::uint32_t action) {
-    for (const std::uint32_t other :
-         {fourCC("ZETA"), fourCC("FACT"), fourCC("DFCT"), fourCC("SH1L"), fourCC("SH1R"),
-          fourCC("NOT "), fourCC("CHOS"), fourCC("MOD "), fourCC("DIV "), fourCC("Jx  "),
-          fourCC("Yx  "), fourCC("AND "), fourCC("NAND"), fourCC("OR  "), fourCC("XOR "),
-          fourCC("y<<x"), fourCC("y>>x")}) {
-        if (action == other) {
-            return false;
-        }
-    }
-    return true;
+    const auto others = {fourCC("ZETA"), fourCC("FACT"), fourCC("DFCT"), fourCC("SH1L"),
+                         fourCC("SH1R"), fourCC("NOT "), fourCC("CHOS"), fourCC("MOD "),
+                         fourCC("DIV "), fourCC("Jx  "), fourCC("Yx  "), fourCC("AND "),
+                         fourCC("NAND"), fourCC("OR  "), fourCC("XOR "), fourCC("y<<x"),
+                         fourCC("y>>x")};
+    return std::find(others.begin(), others.end(), action) == others.end();
 }
 
 TEST(FunctionTables, HandErrorsOnBitForBit) {
