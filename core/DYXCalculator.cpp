@@ -1,5 +1,7 @@
 #include "core/DYXCalculator.h"
 
+#include <algorithm>
+
 #include "display/display_modes.h"
 #include "numeric/DYXRoundToDigits.h"
 
@@ -93,13 +95,14 @@ void DYXCalculator::doCommand(const Comand& command) {
 
 bool DYXCalculator::runHandler(std::span<const HandlerRow> rows, std::uint32_t code,
                                const Comand& command) {
-    for (const HandlerRow& row : rows) {
-        if (row.code == code) {
-            (this->*row.handler)(command);
-            return true;
-        }
+    const auto row = std::find_if(rows.begin(), rows.end(), [code](const HandlerRow& candidate) {
+        return candidate.code == code;
+    });
+    if (row == rows.end()) {
+        return false;
     }
-    return false;
+    (this->*row->handler)(command);
+    return true;
 }
 
 void DYXCalculator::takeDYXButtonFrom(const NSButton& button) {
