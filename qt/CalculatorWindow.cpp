@@ -18,6 +18,11 @@ namespace {
 constexpr QMargins kDrawerRoom(360, 240, 200, 220);
 constexpr QSize kLargestBody(404, 288 + static_cast<int>(NSWindow::kTitleBarHeight));
 
+QMargins marginsAround(const QRect& body, const QSize& canvas) {
+    return {body.left(), body.top(), canvas.width() - body.right() - 1,
+            canvas.height() - body.bottom() - 1};
+}
+
 // Follows the record of the key pad for as long as the widget lives.
 class KeyPadWidget final : public QWidget {
   public:
@@ -67,6 +72,9 @@ void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
     titleBar_->setGeometry(0, 0, body.width(), kBar);
     content_->setGeometry(0, kBar, body.width(), body.height() - kBar);
     setMask(body);
+    if (isVisible()) {
+        publishFrameExtents(*this, marginsAround(body, size()));
+    }
     update();
 }
 

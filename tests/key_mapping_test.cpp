@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <xkbcommon/xkbcommon.h>
 
+#include <QInputDevice>
 #include <array>
 #include <set>
 
@@ -16,14 +17,19 @@ constexpr std::uint32_t kLeftShift = 50;
 constexpr std::uint32_t kRightShift = 62;
 constexpr std::uint32_t kLeftAlt = 64;
 
+const QInputDevice* keyboard() {
+    static const QInputDevice device;
+    return &device;
+}
+
 QKeyEvent event(int key, std::uint32_t keysym, const QString& text = {},
                 Qt::KeyboardModifiers modifiers = {}) {
-    return {QEvent::KeyPress, key, modifiers, 10, keysym, 0, text};
+    return {QEvent::KeyPress, key, modifiers, 10, keysym, 0, text, false, 1, keyboard()};
 }
 
 QKeyEvent modifierEvent(QEvent::Type type, int key, std::uint32_t scanCode,
                         std::uint32_t keysym = 0) {
-    return {type, key, {}, scanCode, keysym, 0};
+    return {type, key, {}, scanCode, keysym, 0, {}, false, 1, keyboard()};
 }
 
 TEST(KeyMapping, TellsTheCharacterWithoutControlAndAlt) {
