@@ -92,9 +92,7 @@ void CalculatorWindow::paintEvent(QPaintEvent* /*event*/) {
 
 void CalculatorWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    const QRect body = bodyRect();
-    publishFrameExtents(
-        *this, {body.left(), body.top(), width() - body.right() - 1, height() - body.bottom() - 1});
+    publishFrameExtents(*this, marginsAround(bodyRect(), size()));
     activateWindow();
 }
 

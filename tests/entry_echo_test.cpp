@@ -44,12 +44,20 @@ INSTANTIATE_TEST_SUITE_P(
         EchoRow{mode::SCI, "EEX CHS", "|1||00"}, EchoRow{mode::SCI, "EEX CHS 5", "|1|-|05"},
         EchoRow{mode::SCI, "EEX BACK", "|1||"}, EchoRow{mode::SCI, "2 EEX .", "|2.||00"},
         EchoRow{mode::IRR, "2 E-09 EEX", "|2|-|09"},
-        EchoRow{mode::SCI, "1 . 2 ENTER EEX", "|1.||00"}, EchoRow{13, "EEX 4", "|1||00"}));
+        EchoRow{mode::SCI, "1 . 2 ENTER EEX", "|1.||00"}, EchoRow{13, "EEX 4", "|1||00"},
+        EchoRow{mode::SCI, "1 E+03", "|1|+|03"}, EchoRow{mode::SCI, "1 EEX 1 2 3", "|1| |23"},
+        EchoRow{mode::SCI, "0 0 7", "|007||"}, EchoRow{mode::SCI, "EEX 5 BACK", "|1||00"},
+        EchoRow{mode::SCI, "EEX EEX", "|1||"}, EchoRow{mode::SCI, ". 5 CHS", "-|,5||", 4, u','}));
 
 INSTANTIATE_TEST_SUITE_P(
     TimesAndAngles, EntryEcho,
     testing::Values(EchoRow{mode::HMS, "1", "|1||"}, EchoRow{mode::HMS, "1 2", "|12 : ||"},
-                    EchoRow{mode::HMS, "1 2 3", "|12 : 3||"},
+                    EchoRow{mode::HMS, "1 2 3", "|12 : 3||"}, EchoRow{mode::HMS, ".", "|00 : ||"},
+                    EchoRow{mode::DMS, ".", "|000° ||"},
+                    EchoRow{mode::HMS, "1 2 3 4", "|12 : 34 : ||"},
+                    EchoRow{mode::HMS, "1 2 3 4 5", "|12 : 34 : 5||"},
+                    EchoRow{mode::HMS, "1 2 3 4 5 6 7 8", "|12 : 34 : 56.78||"},
+                    EchoRow{mode::DMS, "1 2 3 4 CHS", "-|123° 4||"},
                     EchoRow{mode::HMS, "1 2 3 4 5 6", "|12 : 34 : 56||"},
                     EchoRow{mode::HMS, "1 2 3 4 5 6 7 CHS", "-|12 : 34 : 56.7||"},
                     EchoRow{mode::HMS, "1 2 3 4 5 6 7", "|12 : 34 : 56,7||", 4, u','},
@@ -67,15 +75,38 @@ INSTANTIATE_TEST_SUITE_P(
         EchoRow{mode::FRC, "5 . 3", "|5  3/1||"}, EchoRow{mode::FRC, "5 . 3 .", "|5  3/||"},
         EchoRow{mode::FRC, "5 . 3 . 8 CHS", "-|5  3/8||"},
         EchoRow{mode::FRC, "5 . . 8", "|5  0/8||"}, EchoRow{mode::FRC, ".", "|  0/1||"},
-        EchoRow{mode::CAR, ".", "|  0/16||"}, EchoRow{mode::CAR, "5 . 3", "|5  3/16||"},
-        EchoRow{mode::CAR, "5 . 3", "|5  3/1||", 0}, EchoRow{mode::CAR, "5 . 3", "|5  3/512||", 9},
-        EchoRow{mode::CAR, "5 . 3", "|5  3/||", 10}, EchoRow{mode::CAR, "5 . 3 . 8", "|5  3/8||"}));
+        EchoRow{mode::FRC, "5 . .", "|5  0/1||"}, EchoRow{mode::CAR, "5 . .", "|5  0/16||"},
+        EchoRow{mode::CAR, "5 . 3 .", "|5  3/||"}, EchoRow{mode::CAR, "5 .", "|5  0/||", 10},
+        EchoRow{mode::CAR, "5 . 3 CHS", "-|5  3/16||"}, EchoRow{mode::CAR, ".", "|  0/16||"},
+        EchoRow{mode::CAR, "5 . 3", "|5  3/16||"}, EchoRow{mode::CAR, "5 . 3", "|5  3/1||", 0},
+        EchoRow{mode::CAR, "5 . 3", "|5  3/512||", 9}, EchoRow{mode::CAR, "5 . 3", "|5  3/||", 10},
+        EchoRow{mode::CAR, "5 . 3 . 8", "|5  3/8||"}));
 
 INSTANTIATE_TEST_SUITE_P(Integers, EntryEcho,
                          testing::Values(EchoRow{mode::HEX, "d E a D", "|dEaD||hex"},
                                          EchoRow{mode::OCT, "0 1 7", "|017||oct"},
                                          EchoRow{mode::BIN, "0 1 1", "|011||bin"},
                                          EchoRow{mode::DEC, "1 2 3 4 CHS", "|-1234||dec"}));
+
+TEST(EntryEchoLine, GivesASignFromAnotherModeASlotOfItsOwnUnlessDecimal) {
+    for (const auto& [inputMode, line] : {std::pair{mode::HEX, "-|10||hex"},
+                                          {mode::OCT, "-|10||oct"},
+                                          {mode::BIN, "-|10||bin"},
+                                          {mode::DEC, "|-10||dec"}}) {
+        KeyScript script;
+        script.press("1 0 CHS");
+        script.inMode(inputMode);
+        script.calculator.updateDisplay();
+        EXPECT_EQ(script.line(), line);
+    }
+}
+
+TEST(EntryEchoLine, LeavesTheLabelAlone) {
+    KeyScript script;
+    script.calculator.xDisplay().setLabelString(u"mine");
+    script.press("1 EEX 2");
+    EXPECT_EQ(utf8(script.entry().labelField()->stringValue()), "mine");
+}
 
 TEST(EntryEchoLine, KeepsTheColorOfTheLine) {
     KeyScript script;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <limits>
 
 #include "display/display_modes.h"
 #include "key_script.h"
@@ -19,7 +20,7 @@ struct ModeRules {
 };
 
 constexpr std::string_view kDecimal = "0123456789";
-constexpr std::array<ModeRules, 16> kModeRules{{
+constexpr std::array<ModeRules, 17> kModeRules{{
     {mode::FIX, kDecimal, true, true, true},
     {mode::SCI, kDecimal, true, true, true},
     {mode::ENG, kDecimal, true, true, true},
@@ -35,7 +36,8 @@ constexpr std::array<ModeRules, 16> kModeRules{{
     {mode::IRR, kDecimal, true, true, true},
     {13, "", true, true, true},
     {-1, "", true, true, true},
-    {2147483647, "", true, true, true},
+    {std::numeric_limits<std::int32_t>::max(), "", true, true, true},
+    {std::numeric_limits<std::int32_t>::min(), "", true, true, true},
 }};
 
 TEST(EntryRules, EachModeAcceptsItsKeys) {
@@ -106,6 +108,23 @@ TEST(EntryRules, DigitsOverTheLimitAreDroppedInSilence) {
     }
 }
 
+TEST(EntryRules, ThePiecesOfAFractionShareTheLimit) {
+    KeyScript script;
+    script.inMode(mode::FRC);
+    script.press("1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 . 2 3 4 5");
+    EXPECT_EQ(script.entry().length(), 19);
+    EXPECT_EQ(script.entry().numeratorLength(), 3);
+    EXPECT_EQ(script.beeps(), 0);
+}
+
+TEST(EntryRules, AFullNumeratorStillLetsTheDenominatorStart) {
+    KeyScript script;
+    script.inMode(mode::FRC);
+    script.press("1 . 1 2 3 4 5 6 . 7");
+    EXPECT_EQ(script.beeps(), 1);
+    EXPECT_EQ(script.line(), "|1  12345/7||");
+}
+
 struct FieldRow {
     std::string_view typed;
     std::string_view text;
@@ -121,6 +140,32 @@ void expectFields(std::int32_t inputMode, const FieldRow& row) {
     EXPECT_EQ(script.entry().text(), row.text);
     EXPECT_EQ(script.entry().hasDecimal(), row.hasDecimal);
     EXPECT_EQ(script.beeps(), 0);
+}
+
+TEST(EntryRules, TheDecimalKeyFillsTheFirstFieldOfAnEmptyEntry) {
+    for (const auto& [inputMode, text] : {std::pair{mode::HMS, "00"}, {mode::DMS, "000"}}) {
+        KeyScript script;
+        script.inMode(inputMode);
+        script.calculator.xDisplay().appendDecimal();
+        EXPECT_EQ(script.entry().text(), text);
+        EXPECT_FALSE(script.entry().hasDecimal());
+    }
+}
+
+TEST(EntryRules, OnlyAnAngleCountsTheDecimalsOfItsSecondsWithoutTheDecimalKey) {
+    KeyScript script;
+    script.inMode(mode::HMS);
+    script.press("1 2 3 4 5 6 7 8");
+    EXPECT_FALSE(script.entry().hasDecimal());
+    EXPECT_EQ(script.entry().exp(), 0);
+    script.press("CLR 1 2 3 4 5 6 . 7 8");
+    EXPECT_EQ(script.entry().exp(), -2);
+    script.inMode(mode::DMS);
+    script.press("CLR 1 2 3 4 5 6 7");
+    EXPECT_FALSE(script.entry().hasDecimal());
+    script.press("8 9");
+    EXPECT_TRUE(script.entry().hasDecimal());
+    EXPECT_EQ(script.entry().exp(), -2);
 }
 
 TEST(EntryRules, TheDecimalKeyEndsAFieldOfATime) {
@@ -211,15 +256,43 @@ TEST(EntryRules, TheSignOfTheExponentGoesFromPlusToMinusToABlank) {
     EXPECT_EQ(script.line(), "-|5| |03");
 }
 
+TEST(EntryRules, LeavingTheExponentKeepsItInForce) {
+    KeyScript script;
+    script.press("5 EEX 0 4 EEX 6");
+    EXPECT_EQ(script.line(), "|56| |04");
+    script.press("CLR 5 EEX CHS BACK EEX 3");
+    EXPECT_EQ(script.line(), "|5|-|03") << "the sign outlives the digits";
+    script.press("CLR 1 2 EEX 3 . EEX 5");
+    EXPECT_EQ(script.line(), "|12.5| |03") << "the decimal key in the exponent is the mantissa's";
+    EXPECT_EQ(script.entry().exp(), -1);
+}
+
 TEST(EntryRules, AChangeOfModeKeepsTheEntry) {
     KeyScript script;
     script.press("1 . 2 3");
-    for (std::int32_t mode = -2; mode < 15; ++mode) {
-        script.inMode(mode);
-        script.press(". BACK 1 . 1 BACK");
-        script.calculator.updateRegister();
-        EXPECT_LE(script.entry().exp(), 0);
-        EXPECT_LE(script.entry().length(), 32);
+    for (const ModeRules& row : kModeRules) {
+        script.inMode(row.mode);
+        EXPECT_EQ(script.entry().text(), "123") << row.mode;
+        EXPECT_EQ(script.entry().exp(), -2) << row.mode;
+        EXPECT_TRUE(script.entry().hasDecimal()) << row.mode;
+    }
+}
+
+TEST(EntryRules, TheCountsHoldThroughAnySeriesOfModes) {
+    KeyScript script;
+    for (const ModeRules& typedIn : kModeRules) {
+        for (const ModeRules& editedIn : kModeRules) {
+            SCOPED_TRACE(testing::Message() << typedIn.mode << " to " << editedIn.mode);
+            script.inMode(typedIn.mode);
+            script.press("1 . 1 1 . 1");
+            script.inMode(editedIn.mode);
+            for (const std::string_view key : {".", "1", "BACK", "BACK", "BACK", "1", "BACK"}) {
+                script.press(key);
+                EXPECT_LE(script.entry().exp(), 0);
+                EXPECT_LE(script.entry().frc(), 0);
+                EXPECT_LE(script.entry().length(), 32);
+            }
+        }
     }
 }
 

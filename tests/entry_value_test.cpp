@@ -43,12 +43,16 @@ INSTANTIATE_TEST_SUITE_P(
         ValueRow{mode::ENG, ". 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9", 0.1234567890123456789},
         ValueRow{mode::FIX, "9 0 0 7 1 9 9 2 5 4 7 4 0 9 9 3", 9007199254740992.0},
         ValueRow{mode::FIX, "9 0 0 7 1 9 9 2 5 4 7 4 0 9 9 5", 9007199254740996.0},
+        ValueRow{mode::FIX, "9 0 0 7 1 9 9 2 5 4 7 4 0 9 9 3 . 0 0 1", 9007199254740994.0},
+        ValueRow{mode::SCI, ". 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1 EEX 9 9 CHS", 1e-118},
         ValueRow{mode::IRR, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 EEX 9 9",
                  9999999999999999999e99},
         ValueRow{mode::FIX, "0 CHS", -0.0}, ValueRow{mode::FIX, ". 5", 0.5},
         ValueRow{mode::FIX, "EEX", 1.0}, ValueRow{mode::FIX, "1 . 2 CLR EEX", 1.0},
+        ValueRow{mode::FIX, "1 . 2 ENTER EEX", 1.0}, ValueRow{mode::FIX, "7 . EEX 0 2 BACK", 7.0},
         ValueRow{mode::MON, "1 . 0 0 5", 1.0, 2}, ValueRow{mode::MON, "2 . 6 7 5", 2.67, 2},
-        ValueRow{mode::MON, "1 . 5", 2.0, 0}));
+        ValueRow{mode::MON, "1 . 5", 2.0, 0}, ValueRow{mode::MON, "2 . 5", 2.0, 0},
+        ValueRow{mode::MON, ". 1 2 5", 0.12, 2}, ValueRow{mode::MON, ". 1 CHS", -0.0, 0}));
 
 INSTANTIATE_TEST_SUITE_P(
     Integers, EntryValue,
@@ -57,7 +61,8 @@ INSTANTIATE_TEST_SUITE_P(
                     ValueRow{mode::HEX, "1 0 0 0 0 0 0 0 0", 4294967295.0},
                     ValueRow{mode::OCT, "7 7 7", 511.0},
                     ValueRow{mode::OCT, "7 7 7 7 7 7 7 7 7 7 7 7 7", 4294967295.0},
-                    ValueRow{mode::DEC, "5 CHS", -5.0},
+                    ValueRow{mode::DEC, "5 CHS", -5.0}, ValueRow{mode::DEC, "0 CHS", 0.0},
+                    ValueRow{mode::OCT, "0 1 7", 15.0},
                     ValueRow{mode::DEC, "2 1 4 7 4 8 3 6 4 8", 2147483647.0},
                     ValueRow{mode::DEC, "2 1 4 7 4 8 3 6 4 8 CHS", -2147483648.0},
                     ValueRow{mode::DEC, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 CHS", -2147483648.0},
@@ -74,6 +79,9 @@ INSTANTIATE_TEST_SUITE_P(
                     ValueRow{mode::HMS, "1 2 3 4 5 6 7 8", kHour + 56.78 / 3600.0},
                     ValueRow{mode::HMS, "0 1 3 0 CHS", 22.5},
                     ValueRow{mode::HMS, "0 0 9 9", 99.0 / 60.0}, ValueRow{mode::HMS, ".", 0.0},
+                    ValueRow{mode::HMS, "0 CHS", 24.0}, ValueRow{mode::DMS, "0 CHS", 360.0},
+                    ValueRow{mode::HMS, "2 . 5 .", 2.0 + 5.0 / 60.0},
+                    ValueRow{mode::DMS, "1 2 3 4", 123.0 + 4.0 / 60.0},
                     ValueRow{mode::DMS, "0 9 0 3 0 0 0", 90.5},
                     ValueRow{mode::DMS, "0 9 0 3 0 0 0 CHS", 269.5},
                     ValueRow{mode::DMS, "1 2", 12.0},
@@ -81,17 +89,18 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Fractions, EntryValue,
-    testing::Values(ValueRow{mode::FRC, "5", 5.0}, ValueRow{mode::FRC, "5 . 3", 8.0},
-                    ValueRow{mode::FRC, "1 . 3 . 8", 1.375}, ValueRow{mode::FRC, "1 . . 8", 1.0},
-                    ValueRow{mode::FRC, "1 . 3 . 8 CHS", -1.375},
-                    ValueRow{mode::FRC, "0 CHS", -0.0}, ValueRow{mode::FRC, "1 . 3 . 0", INFINITY},
-                    ValueRow{mode::FRC, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9",
-                             9223372036854775807.0},
-                    ValueRow{mode::CAR, "5 . 3", 5.0 + 3.0 / 16.0},
-                    ValueRow{mode::CAR, ". 5", 0.625, 3}, ValueRow{mode::CAR, ". 5", 5.0, 0},
-                    ValueRow{mode::CAR, ". 5 1 1", 511.0 / 512.0, 9},
-                    ValueRow{mode::CAR, "1 . 1 . 4", 1.25},
-                    ValueRow{mode::CAR, ". 1", 1.0 / 2147483647.0, 4000000000U}));
+    testing::Values(
+        ValueRow{mode::FRC, "5", 5.0}, ValueRow{mode::FRC, "5 . 3", 8.0},
+        ValueRow{mode::FRC, "1 . 3 . 8", 1.375}, ValueRow{mode::FRC, "1 . . 8", 1.0},
+        ValueRow{mode::FRC, "1 . 3 . 8 CHS", -1.375}, ValueRow{mode::FRC, "0 CHS", -0.0},
+        ValueRow{mode::FRC, "1 . 3 . 0", INFINITY}, ValueRow{mode::FRC, "1 . 3 . 0 CHS", -INFINITY},
+        ValueRow{mode::FRC, ".", 0.0}, ValueRow{mode::FRC, ". 9 9 9 9 9 . 1", 99999.0},
+        ValueRow{mode::CAR, ". . 8", 0.0}, ValueRow{mode::CAR, "1 . 1 CHS", -1.0625},
+        ValueRow{mode::FRC, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9", 9223372036854775807.0},
+        ValueRow{mode::CAR, "5 . 3", 5.0 + 3.0 / 16.0}, ValueRow{mode::CAR, ". 5", 0.625, 3},
+        ValueRow{mode::CAR, ". 5", 5.0, 0}, ValueRow{mode::CAR, ". 5 1 1", 511.0 / 512.0, 9},
+        ValueRow{mode::CAR, "1 . 1 . 4", 1.25},
+        ValueRow{mode::CAR, ". 1", 1.0 / 2147483647.0, 4000000000U}));
 
 TEST(EntryValueErrors, AnUnreadableEntryIsAnInputError) {
     struct Row {
@@ -119,10 +128,28 @@ TEST(EntryValueErrors, AnUnreadableEntryIsAnInputError) {
             script.inMode(mode);
             script.press("ENTER");
             ASSERT_TRUE(std::isnan(script.x()));
+            EXPECT_EQ(std::bit_cast<std::uint64_t>(script.x()) & 0xFFFFFFFFU, 36U);
             EXPECT_EQ(utf8(DYXnanString(script.x())), "input error");
             EXPECT_EQ(script.line(), "|input error||");
         }
     }
+}
+
+TEST(EntryValueErrors, AnEntryWithoutDigitsIsZeroWhereFieldsMayBeEmpty) {
+    for (const std::int32_t mode : {mode::FRC, mode::CAR, mode::HMS, mode::DMS, mode::BIN}) {
+        KeyScript script;
+        script.press(".");
+        script.inMode(mode);
+        EXPECT_EQ(script.entry().doubleValue(), 0.0) << "mode " << mode;
+    }
+}
+
+TEST(EntryValueErrors, ZeroOverZeroIsNoNumberAndNoError) {
+    KeyScript script;
+    script.inMode(mode::FRC);
+    script.press("0 . 0 . 0");
+    EXPECT_TRUE(std::isnan(script.entry().doubleValue()));
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(script.entry().doubleValue()) & 0xFFFFFFFFU, 0U);
 }
 
 TEST(EntryValueErrors, AFractionReadsUpToTheFirstLetter) {
@@ -140,6 +167,11 @@ TEST(EntryValueErrors, ASignFromAnotherModeNegatesModuloTheWord) {
     EXPECT_EQ(script.entry().doubleValue(), 4294967291.0);
     script.inMode(mode::DMS);
     EXPECT_EQ(script.entry().doubleValue(), 355.0);
+    script.press("CLR");
+    script.inMode(mode::FIX);
+    script.press("1 0 CHS");
+    script.inMode(mode::BIN);
+    EXPECT_EQ(script.entry().doubleValue(), 2.0) << "binary digits have no sign";
 }
 
 }  // namespace

@@ -60,10 +60,11 @@ struct Registers {
 
 class Stack : public testing::TestWithParam<Registers> {};
 
-// Each row starts with T 4, Z 3, Y 2, X 7, ready to lift.
+// Each row starts with T 4, Z 3, Y 2, X 7, 9 in last X, ready to lift.
 TEST_P(Stack, HoldsAfterTheKeys) {
     KeyScript script;
     script.setStack(7, 2, 3, 4);
+    script.calculator.stack().lastX = 9;
     script.press(GetParam().keys);
     EXPECT_EQ(script.calculator.stack().reg, GetParam().reg) << GetParam().keys;
     EXPECT_EQ(script.calculator.stack().lastX, GetParam().lastX) << GetParam().keys;
@@ -77,13 +78,31 @@ INSTANTIATE_TEST_SUITE_P(
         Registers{"1 2 ENTER 3 +", {15, 7, 2, 2}, 3}, Registers{"+", {9, 3, 4, 4}, 7},
         Registers{"ENTER ENTER", {7, 7, 7, 2}, 7}, Registers{"1 ENTER", {1, 1, 7, 2}, 1},
         Registers{"CLR 1 ENTER", {1, 1, 2, 3}, 1}, Registers{"BACK 1 ENTER", {1, 1, 2, 3}, 1},
-        Registers{"CLR CLR", {0, 2, 3, 4}, 0}, Registers{"CLRG", {0, 0, 0, 0}, 0},
-        Registers{"ENTER CHS 5 X<>Y", {-7, 5, 7, 2}, -7}, Registers{"CHS", {-7, 2, 3, 4}, 0},
-        Registers{"ROLD", {2, 3, 4, 7}, 0}, Registers{"ROLU", {4, 7, 2, 3}, 0},
-        Registers{"X<>Y", {2, 7, 3, 4}, 0}, Registers{"ROLD ROLD ROLD ROLD", {7, 2, 3, 4}, 0},
-        Registers{"LASTX", {0, 7, 2, 3}, 7}, Registers{"SQR LASTX", {7, 49, 2, 3}, 49},
+        Registers{"CLR CLR", {0, 2, 3, 4}, 9}, Registers{"CLRG", {0, 0, 0, 0}, 9},
+        Registers{"ENTER CHS 5 X<>Y", {-7, 5, 7, 2}, -7}, Registers{"CHS", {-7, 2, 3, 4}, 9},
+        Registers{"ROLD", {2, 3, 4, 7}, 9}, Registers{"ROLU", {4, 7, 2, 3}, 9},
+        Registers{"X<>Y", {2, 7, 3, 4}, 9}, Registers{"ROLD ROLD ROLD ROLD", {7, 2, 3, 4}, 9},
+        Registers{"LASTX", {9, 7, 2, 3}, 7}, Registers{"SQR LASTX", {7, 49, 2, 3}, 49},
         Registers{"5 PI", {kPi, 5, 7, 2}, 5}, Registers{"5 ENTER PI", {kPi, 5, 5, 7}, 5},
-        Registers{"5 X<>Y", {7, 5, 2, 3}, 7}, Registers{"5 TRIN? ENTER", {5, 5, 7, 2}, 5}));
+        Registers{"5 X<>Y", {7, 5, 2, 3}, 7}, Registers{"5 TRIN? ENTER", {5, 5, 7, 2}, 5},
+        Registers{". 5 X<>Y", {7, 0.5, 2, 3}, 7}, Registers{"CLR . 5 X<>Y", {2, 0.5, 3, 4}, 9},
+        Registers{"EEX 2 X<>Y", {7, 100, 2, 3}, 7}, Registers{"CLR EEX 2 X<>Y", {2, 100, 3, 4}, 9},
+        Registers{"E+03 X<>Y", {7, 1000, 2, 3}, 7}, Registers{"CLR E+03 X<>Y", {2, 1000, 3, 4}, 9},
+        Registers{"5 E-03 ENTER", {0.005, 0.005, 7, 2}, 0.005},
+        Registers{"CLR PI", {kPi, 0, 2, 3}, 0}, Registers{"BACK", {0, 2, 3, 4}, 9},
+        Registers{"5 ROLD", {7, 2, 3, 5}, 7}, Registers{"5 ROLU", {3, 5, 7, 2}, 7},
+        Registers{"5 LASTX", {7, 5, 7, 2}, 5}, Registers{"5 CHS ENTER", {-5, -5, 7, 2}, -5},
+        Registers{"CLAL", {0, 0, 0, 0}, 9}));
+
+TEST(StackDrop, CopiesTAndLeavesX) {
+    const std::array<std::array<double, 4>, 5> expected{
+        {{1, 2, 3, 4}, {1, 3, 4, 4}, {1, 4, 4, 4}, {1, 4, 4, 4}, {1, 4, 4, 4}}};
+    for (unsigned count = 0; count < expected.size(); ++count) {
+        DYXStack stack{.reg = {1, 2, 3, 4}};
+        stack.dropOntoXReg(count);
+        EXPECT_EQ(stack.reg, expected.at(count)) << count;
+    }
+}
 
 TEST(DataEntry, RefusedStartsSoundAndDoNotLift) {
     struct Row {
@@ -127,6 +146,9 @@ TEST(DataEntry, ChangeOfSignFlipsTheBitOfAnyNumber) {
     script.press("1 CHS ROOT CHS");
     EXPECT_TRUE(std::isnan(script.x()) && std::signbit(script.x()));
     EXPECT_EQ(script.line(), "|sqrt error||");
+    script.inMode(mode::HEX);
+    script.press("5 ENTER CHS");
+    EXPECT_EQ(script.x(), -5) << "a mode without a sign key still negates a finished number";
 }
 
 TEST(DataEntry, ModeMonetaryRoundsXAfterEveryCommand) {

@@ -69,8 +69,12 @@ void KeyScript::press(std::string_view keys) {
     std::istringstream words{std::string(keys)};
     std::string key;
     while (words >> key) {
-        calculator.doCommand(commandFromString(asciiText(commandOf(key))));
+        run(commandOf(key));
     }
+}
+
+void KeyScript::run(std::string_view command) {
+    calculator.doCommand(commandFromString(asciiText(command)));
 }
 
 std::string KeyScript::line() const {

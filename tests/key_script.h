@@ -18,6 +18,8 @@ class KeyScript {
     // register keys and the direct recall and store. A word of four or more letters that is no
     // key is an error of the script and throws.
     void press(std::string_view keys);
+    // A command as a button carries it, for codes that have no name here: "unitSQR ".
+    void run(std::string_view command);
     void inMode(std::int32_t inputMode) { calculator.xDisplay().setInputMode(inputMode); }
     void setStack(double x, double y, double z, double t) { calculator.stack().reg = {x, y, z, t}; }
 
