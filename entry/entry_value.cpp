@@ -66,7 +66,12 @@ double DYXInputDisplay::unsignedValue(int base) const {
     if (text_.empty() || !hasOnlyDigitsOf(text_, base)) {
         return DYXnan(kInputError);
     }
-    const auto value = leadingInteger<std::uint32_t>(text_, 0, base);
+    constexpr std::uint32_t kLimit = std::numeric_limits<std::uint32_t>::max();
+    const auto magnitude = leadingInteger<std::uint64_t>(text_, 0, base);
+    if (magnitude > kLimit) {
+        return kLimit;
+    }
+    const auto value = static_cast<std::uint32_t>(magnitude);
     return sgn_ ? 0U - value : value;
 }
 

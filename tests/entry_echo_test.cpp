@@ -88,6 +88,42 @@ INSTANTIATE_TEST_SUITE_P(Integers, EntryEcho,
                                          EchoRow{mode::BIN, "0 1 1", "|011||bin"},
                                          EchoRow{mode::DEC, "1 2 3 4 CHS", "|-1234||dec"}));
 
+TEST(EntryExponent, TheExponentKeepsItsLastTwoDigits) {
+    KeyScript script;
+    script.press("5 EEX 1 2 3");
+    EXPECT_EQ(script.line(), "|5| |23");
+    script.press("BACK");
+    EXPECT_EQ(script.line(), "|5| |02");
+    script.press("BACK");
+    EXPECT_EQ(script.line(), "|5||00");
+    script.press("BACK");
+    EXPECT_FALSE(script.entry().inExponent());
+    EXPECT_EQ(script.line(), "|5||");
+}
+
+TEST(EntryExponent, TheSignOfTheExponentGoesFromPlusToMinusToABlank) {
+    KeyScript script;
+    script.press("5 E+03");
+    EXPECT_EQ(script.line(), "|5|+|03");
+    script.press("CHS");
+    EXPECT_EQ(script.line(), "|5|-|03");
+    script.press("CHS");
+    EXPECT_EQ(script.line(), "|5| |03");
+    script.press("EEX CHS");
+    EXPECT_EQ(script.line(), "-|5| |03");
+}
+
+TEST(EntryExponent, LeavingTheExponentKeepsItInForce) {
+    KeyScript script;
+    script.press("5 EEX 0 4 EEX 6");
+    EXPECT_EQ(script.line(), "|56| |04");
+    script.press("CLR 5 EEX CHS BACK EEX 3");
+    EXPECT_EQ(script.line(), "|5|-|03") << "the sign outlives the digits";
+    script.press("CLR 1 2 EEX 3 . EEX 5");
+    EXPECT_EQ(script.line(), "|12.5| |03") << "the decimal key in the exponent is the mantissa's";
+    EXPECT_EQ(script.entry().exp(), -1);
+}
+
 TEST(EntryEchoLine, GivesASignFromAnotherModeASlotOfItsOwnUnlessDecimal) {
     for (const auto& [inputMode, line] : {std::pair{mode::HEX, "-|10||hex"},
                                           {mode::OCT, "-|10||oct"},

@@ -167,6 +167,9 @@ TEST(EntryValueErrors, ASignFromAnotherModeNegatesModuloTheWord) {
     EXPECT_EQ(script.entry().doubleValue(), 4294967291.0);
     script.inMode(mode::DMS);
     EXPECT_EQ(script.entry().doubleValue(), 355.0);
+    script.inMode(mode::HEX);
+    script.press("0 0 0 0 0 0 0 0 0");
+    EXPECT_EQ(script.entry().doubleValue(), 4294967295.0) << "the limit has no sign";
     script.press("CLR");
     script.inMode(mode::FIX);
     script.press("1 0 CHS");
