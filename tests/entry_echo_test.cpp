@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "display/display_modes.h"
 #include "key_script.h"
 
@@ -15,6 +17,11 @@ struct EchoRow {
     std::uint32_t digits = 4;
     char16_t separator = u'.';
 };
+
+// The name of the row.
+void PrintTo(const EchoRow& row, std::ostream* out) {
+    *out << utf8(displayModeName(row.mode)) << " with " << row.digits << " digits: " << row.keys;
+}
 
 class EntryEcho : public testing::TestWithParam<EchoRow> {};
 

@@ -5,6 +5,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <ostream>
 #include <vector>
 
 #include "display/display_modes.h"
@@ -20,6 +21,11 @@ struct ValueRow {
     double value;
     std::uint32_t digits = 4;
 };
+
+// The name of the row.
+void PrintTo(const ValueRow& row, std::ostream* out) {
+    *out << utf8(displayModeName(row.mode)) << " with " << row.digits << " digits: " << row.keys;
+}
 
 class EntryValue : public testing::TestWithParam<ValueRow> {};
 

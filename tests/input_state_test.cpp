@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include <array>
 #include <cmath>
 
@@ -18,6 +20,9 @@ struct Transition {
     std::string_view event;
     std::array<int, 3> next;  // from entering, replacing, lifting
 };
+
+// The name of the row.
+void PrintTo(const Transition& row, std::ostream* out) { *out << row.event; }
 
 class InputStateTransition : public testing::TestWithParam<Transition> {};
 
@@ -57,6 +62,9 @@ struct Registers {
     std::array<double, 4> reg;
     double lastX;
 };
+
+// The name of the row.
+void PrintTo(const Registers& row, std::ostream* out) { *out << row.keys; }
 
 class Stack : public testing::TestWithParam<Registers> {};
 
