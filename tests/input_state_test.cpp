@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 #include <array>
 #include <cmath>
+#include <ostream>
 
 #include "display/display_modes.h"
 #include "key_script.h"
