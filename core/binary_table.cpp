@@ -3,7 +3,10 @@
 #include "core/Comand.h"
 #include "core/function_tables.h"
 #include "core/table_checks.h"
+#include "numeric/bessel.h"
+#include "numeric/bit_operations.h"
 #include "numeric/checked_elementary.h"
+#include "numeric/combinatorics.h"
 #include "numeric/elementary.h"
 
 namespace talvex {
@@ -19,21 +22,21 @@ constexpr std::array<BinaryRow, 23> kBinaries{{
     {.action = fourCC("x^y "), .function = DYXXpowY},
     {.action = fourCC("~   "), .function = DYXlogbase},
     {.action = fourCC("^   "), .function = DYXpow},
-    {.action = fourCC("CHOS")},
+    {.action = fourCC("CHOS"), .function = choose},
     {.action = fourCC("MOD "), .function = mod},
     {.action = fourCC("DIV "), .function = divf},
     {.action = fourCC("REM "), .function = rem},
     {.action = fourCC("HYPT"), .function = hypotenuse},
     {.action = fourCC("MEAN"), .function = geometricmean},
     {.action = fourCC("DEL%"), .function = deltapercent},
-    {.action = fourCC("Jx  ")},
-    {.action = fourCC("Yx  ")},
-    {.action = fourCC("AND ")},
-    {.action = fourCC("NAND")},
-    {.action = fourCC("OR  ")},
-    {.action = fourCC("XOR ")},
-    {.action = fourCC("y<<x")},
-    {.action = fourCC("y>>x")},
+    {.action = fourCC("Jx  "), .function = besselJv},
+    {.action = fourCC("Yx  "), .function = besselYv},
+    {.action = fourCC("AND "), .function = andf},
+    {.action = fourCC("NAND"), .function = nandf},
+    {.action = fourCC("OR  "), .function = orf},
+    {.action = fourCC("XOR "), .function = xorf},
+    {.action = fourCC("y<<x"), .function = shiftleftf},
+    {.action = fourCC("y>>x"), .function = shiftrightf},
 }};
 static_assert(hasUniqueActions(kBinaries));
 

@@ -7,8 +7,7 @@
 #include "numeric/DYXMathContext.h"
 
 // The tables behind the keys: an action code and the function to call. A row holds a plain
-// function, or one that reads the calculator's settings; X always comes first, then Y. A row whose
-// function doesn't exist yet is passed over by the look-up, like an action without a row.
+// function, or one that reads the calculator's settings; X always comes first, then Y.
 namespace talvex {
 
 template <class... Operands>
@@ -17,12 +16,8 @@ struct FunctionRow {
     using Checked = double (*)(const DYXMathContext&, Operands...);
 
     std::uint32_t action = 0;
-    std::variant<std::monostate, Plain, Checked> function = {};
+    std::variant<Plain, Checked> function;
 
-    [[nodiscard]] bool hasFunction() const {
-        return !std::holds_alternative<std::monostate>(function);
-    }
-    // The row has a function.
     [[nodiscard]] double operator()(const DYXMathContext& context, Operands... operands) const {
         if (const Plain* plain = std::get_if<Plain>(&function)) {
             return (*plain)(operands...);
@@ -48,11 +43,11 @@ struct ConstantRow {
 [[nodiscard]] std::span<const QuadranaryRow> quadranaries();
 [[nodiscard]] std::span<const ConstantRow> constants();
 
-// The first row with a function for the action, or null.
+// The row of the action, or null.
 template <class Row>
 [[nodiscard]] const Row* findFunction(std::span<const Row> table, std::uint32_t action) {
     for (const Row& row : table) {
-        if (row.action == action && row.hasFunction()) {
+        if (row.action == action) {
             return &row;
         }
     }

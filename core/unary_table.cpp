@@ -4,8 +4,11 @@
 #include "core/Comand.h"
 #include "core/function_tables.h"
 #include "core/table_checks.h"
+#include "numeric/bit_operations.h"
 #include "numeric/checked_elementary.h"
+#include "numeric/combinatorics.h"
 #include "numeric/elementary.h"
+#include "numeric/riemannzeta.h"
 #include "numeric/trigonometry.h"
 
 namespace talvex {
@@ -55,7 +58,7 @@ constexpr std::array<UnaryRow, 62> kUnitaries{{
     {.action = fourCC("2^X "), .function = DYXpow2},
     {.action = fourCC("10^X"), .function = DYXpow10},
     {.action = fourCC("GAMA"), .function = [](double x) { return std::tgamma(x); }},
-    {.action = fourCC("ZETA")},
+    {.action = fourCC("ZETA"), .function = riemannzeta},
     {.action = fourCC("LGAM"), .function = [](double x) { return std::lgamma(x); }},
     {.action = fourCC("FLOR"), .function = [](double x) { return std::floor(x); }},
     {.action = fourCC("CEIL"), .function = [](double x) { return std::ceil(x); }},
@@ -64,8 +67,8 @@ constexpr std::array<UnaryRow, 62> kUnitaries{{
     {.action = fourCC("FRAC"), .function = frac},
     {.action = fourCC("INT "), .function = [](double x) { return std::trunc(x); }},
     {.action = fourCC("RINT"), .function = [](double x) { return std::rint(x); }},
-    {.action = fourCC("FACT")},
-    {.action = fourCC("DFCT")},
+    {.action = fourCC("FACT"), .function = factorial},
+    {.action = fourCC("DFCT"), .function = doublefactorial},
     {.action = fourCC("J0  "), .function = [](double x) { return ::j0(x); }},
     {.action = fourCC("J1  "), .function = [](double x) { return ::j1(x); }},
     {.action = fourCC("Y0  "), .function = [](double x) { return ::y0(x); }},
@@ -73,9 +76,9 @@ constexpr std::array<UnaryRow, 62> kUnitaries{{
     {.action = fourCC("ERF "), .function = [](double x) { return std::erf(x); }},
     {.action = fourCC("ERFC"), .function = [](double x) { return std::erfc(x); }},
     {.action = fourCC("CBRT"), .function = [](double x) { return std::cbrt(x); }},
-    {.action = fourCC("SH1L")},
-    {.action = fourCC("SH1R")},
-    {.action = fourCC("NOT ")},
+    {.action = fourCC("SH1L"), .function = shift1leftf},
+    {.action = fourCC("SH1R"), .function = shift1rightf},
+    {.action = fourCC("NOT "), .function = notf},
 }};
 static_assert(hasUniqueActions(kUnitaries));
 

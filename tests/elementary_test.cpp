@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -10,6 +9,7 @@
 
 #include "numeric/DYXnan.h"
 #include "numeric/checked_elementary.h"
+#include "same_bits.h"
 
 namespace talvex {
 namespace {
@@ -22,19 +22,6 @@ const double kIndeterminate = DYXnan('\0');
 
 double below(double value) { return std::nextafter(value, -kInfinity); }
 double above(double value) { return std::nextafter(value, kInfinity); }
-
-// The same bits; of a NaN of ordinary arithmetic the sign is the processor's business.
-testing::AssertionResult isSame(double actual, double expected) {
-    const auto bits = std::bit_cast<std::uint64_t>(actual);
-    const auto wanted = std::bit_cast<std::uint64_t>(expected);
-    constexpr std::uint64_t sign = std::uint64_t{1} << 63U;
-    const bool isPlainNaN = wanted == std::bit_cast<std::uint64_t>(kIndeterminate);
-    if (bits == wanted || (isPlainNaN && bits == (wanted | sign))) {
-        return testing::AssertionSuccess();
-    }
-    return testing::AssertionFailure()
-           << actual << " (" << std::hex << bits << ") for " << expected << " (" << wanted << ")";
-}
 
 struct DomainRow {
     const char* name;
