@@ -75,9 +75,10 @@ DisplayFields DYXCalculator::plainFields() {
 }
 
 void DYXCalculator::doCommand(const Comand& command) {
-    static constexpr std::array<HandlerRow, 10> kCategories{{
+    static constexpr std::array<HandlerRow, 11> kCategories{{
         {fourCC("bina"), &DYXCalculator::doCommandBinary},
         {fourCC("cons"), &DYXCalculator::doCommandConstant},
+        {fourCC("conv"), &DYXCalculator::doCommandConvert},
         {fourCC("data"), &DYXCalculator::doCommandDataEntry},
         {fourCC("memo"), &DYXCalculator::doCommandMemory},
         {fourCC("modi"), &DYXCalculator::doCommandModifier},

@@ -8,6 +8,7 @@
 
 #include "core/Comand.h"
 #include "core/DYXStack.h"
+#include "core/converter_table.h"
 #include "display/DYXOutputDisplay.h"
 #include "entry/DYXInputDisplay.h"
 #include "numeric/DYXMathContext.h"
@@ -65,6 +66,11 @@ class DYXCalculator : public DYXMathContext {
     // 0 to 19 have keys; 20 is saved and 21 isn't even that.
     [[nodiscard]] std::array<double, kMemoryRegisters>& mem() { return mem_; }
     [[nodiscard]] const std::array<double, kMemoryRegisters>& mem() const { return mem_; }
+    // The quantity of each group of units, in its base unit; 0 at every start.
+    [[nodiscard]] std::array<double, kConversionRegisters>& converted() { return converted_; }
+    [[nodiscard]] const std::array<double, kConversionRegisters>& converted() const {
+        return converted_;
+    }
 
     [[nodiscard]] bool recall() const { return recall_; }
     void setRecall(bool recall) { recall_ = recall; }
@@ -125,6 +131,10 @@ class DYXCalculator : public DYXMathContext {
     void doCommandMemoryDirect(const Comand& command);
     void operateOnRegister(std::int32_t operation, unsigned number);
 
+    // Units, in conversion_commands.cpp.
+    void doCommandConvert(const Comand& command);
+    [[nodiscard]] bool readsConverted(const Comand& command) const;
+
     // Functions, constants and modifiers, in function_commands.cpp.
     void doCommandUnitary(const Comand& command);
     void doCommandBinary(const Comand& command);
@@ -142,6 +152,7 @@ class DYXCalculator : public DYXMathContext {
     Comand lastCommand_;
     DYXStack stack_;
     std::array<double, kMemoryRegisters> mem_{};
+    std::array<double, kConversionRegisters> converted_{};
     bool recall_ = false;
     std::int32_t store_ = kNothingArmed;
     std::unique_ptr<DYXInputDisplay> xDisplay_;
