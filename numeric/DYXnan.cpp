@@ -50,6 +50,8 @@ double DYXnan(char code) {
     return std::bit_cast<double>(std::bit_cast<std::uint64_t>(std::nan("")) | signExtended);
 }
 
+double withPlainNaN(double value) { return std::isnan(value) ? DYXnan('\0') : value; }
+
 std::u16string DYXnanString(double value) {
     const auto pattern = std::bit_cast<std::uint64_t>(value);
     const auto lowWord = static_cast<std::uint32_t>(pattern);

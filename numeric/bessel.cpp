@@ -280,22 +280,20 @@ BesselStatus bessjy(double x, double nu, BesselValues& values) {
 // A negative order is reflected; the sine of a whole one is as small as `sin` makes it.
 double besselJv(double order, double x) {
     BesselValues values;
-    const bool isNegative = order < 0.0;
-    if (bessjy(x, isNegative ? -order : order, values) != BesselStatus::done) {
+    if (bessjy(x, order < 0.0 ? -order : order, values) != BesselStatus::done) {
         return DYXnan('B');
     }
-    return isNegative ? std::cos(order * PI) * values.J + std::sin(order * PI) * values.Y
-                      : values.J;
+    const double reflected = std::cos(order * PI) * values.J + std::sin(order * PI) * values.Y;
+    return withPlainNaN(order < 0.0 ? reflected : values.J);
 }
 
 double besselYv(double order, double x) {
     BesselValues values;
-    const bool isNegative = order < 0.0;
-    if (bessjy(x, isNegative ? -order : order, values) != BesselStatus::done) {
+    if (bessjy(x, order < 0.0 ? -order : order, values) != BesselStatus::done) {
         return DYXnan('B');
     }
-    return isNegative ? std::cos(order * PI) * values.Y + std::sin(order * -PI) * values.J
-                      : values.Y;
+    const double reflected = std::cos(order * PI) * values.Y + std::sin(order * -PI) * values.J;
+    return withPlainNaN(order < 0.0 ? reflected : values.Y);
 }
 
 }  // namespace talvex

@@ -68,7 +68,7 @@ double riemannzeta(double s) {
     for (unsigned int k = kTerms; k-- > 0;) {
         sum = sum + kCoefficients.signedDifference[k] / std::pow(k + 1.0, s);
     }
-    return -sum / ((1.0 - std::pow(2.0, 1.0 - s)) * kCoefficients.last);
+    return withPlainNaN(-sum / ((1.0 - std::pow(2.0, 1.0 - s)) * kCoefficients.last));
 }
 
 }  // namespace talvex

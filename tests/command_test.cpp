@@ -10,6 +10,7 @@
 #include "core/function_tables.h"
 #include "display/ascii_text.h"
 #include "key_script.h"
+#include "same_bits.h"
 
 namespace talvex {
 namespace {
@@ -165,6 +166,32 @@ TEST(Functions, SaveXDropTheStackAndReportFailuresAsResults) {
     EXPECT_EQ(script.calculator.stack().lastX, 2);
     script.press("LASTX");
     EXPECT_EQ(script.x(), 2);
+}
+
+template <class Row>
+std::string commandOf(std::string category, const Row& row) {
+    for (unsigned place = 0; place < 4; ++place) {
+        category += characterOf(row.action, place);
+    }
+    return category;
+}
+
+TEST(Functions, HaveACommandForEveryRowOfTheTables) {
+    KeyScript script;
+    const double x = 0.75;
+    const double y = 20.5;
+    for (const UnaryRow& row : unitaries()) {
+        script.setStack(x, y, 3, 4);
+        script.run(commandOf("unit", row));
+        EXPECT_TRUE(isSame(script.x(), row({}, x))) << commandOf("unit", row);
+        EXPECT_EQ(script.y(), y);
+    }
+    for (const BinaryRow& row : binaries()) {
+        script.setStack(x, y, 3, 4);
+        script.run(commandOf("bina", row));
+        EXPECT_TRUE(isSame(script.x(), row({}, x, y))) << commandOf("bina", row);
+        EXPECT_EQ(script.y(), 3);
+    }
 }
 
 TEST(Functions, TheKeysOfPowersFollowTheOrderOfOperands) {

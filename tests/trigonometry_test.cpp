@@ -154,13 +154,13 @@ TEST(GenericFunctions, ChooseByTheModifiers) {
     EXPECT_EQ(bitsOf(DYXgencos(contextOf(1, true, true), 0.5)), bitsOf(DYXnan('H')));
 }
 
-// Of the rows of the tables, those that go through integers or series hand no error on.
+// Of the rows of the tables, those that go through integers hand no error on, and the Bessel
+// functions of real order have an error of their own.
 bool handsErrorsOn(std::uint32_t action) {
-    const auto others = {fourCC("ZETA"), fourCC("FACT"), fourCC("DFCT"), fourCC("SH1L"),
-                         fourCC("SH1R"), fourCC("NOT "), fourCC("CHOS"), fourCC("MOD "),
-                         fourCC("DIV "), fourCC("Jx  "), fourCC("Yx  "), fourCC("AND "),
-                         fourCC("NAND"), fourCC("OR  "), fourCC("XOR "), fourCC("y<<x"),
-                         fourCC("y>>x")};
+    const auto others = {fourCC("FACT"), fourCC("DFCT"), fourCC("SH1L"), fourCC("SH1R"),
+                         fourCC("NOT "), fourCC("CHOS"), fourCC("MOD "), fourCC("DIV "),
+                         fourCC("Jx  "), fourCC("Yx  "), fourCC("AND "), fourCC("NAND"),
+                         fourCC("OR  "), fourCC("XOR "), fourCC("y<<x"), fourCC("y>>x")};
     return std::find(others.begin(), others.end(), action) == others.end();
 }
 

@@ -74,7 +74,7 @@ double HardNumbers::next() {
             return sign * std::nextafter(kThresholds.at(bits % kThresholds.size()),
                                          random_() % 2 == 0 ? kInfinity : -kInfinity);
         default:
-            return sign * std::exp(between(-30.0, 30.0));
+            return sign * std::ldexp(between(1.0, 2.0), static_cast<int>(bits % 88) - 44);
     }
 }
 
