@@ -34,7 +34,7 @@ class BigNatural {
         const std::size_t dropped = length - kPrecision;
         const std::uint64_t leading = bitsFrom(dropped);
         const bool roundsUp = bit(dropped - 1) && ((leading & 1U) != 0 || hasBitBelow(dropped - 1));
-        double value = static_cast<double>(leading + (roundsUp ? 1 : 0));
+        auto value = static_cast<double>(leading + (roundsUp ? 1 : 0));
         for (std::size_t place = 0; place < dropped; ++place) {
             value *= 2.0;
         }

@@ -30,14 +30,14 @@ double JCtomVderiv(double t);
 // degrees. It lies in the type's range over the whole of K, J and E and nearly the whole of T, up
 // to about 1100 degrees for N, 1060 for S and 970 for R; elsewhere, and nearly everywhere for B, it
 // may be a root of the polynomials outside their range, or no root at all.
-double TmVtoC(double millivolts);
-double SmVtoC(double millivolts);
-double RmVtoC(double millivolts);
-double BmVtoC(double millivolts);
-double NmVtoC(double millivolts);
-double EmVtoC(double millivolts);
-double KmVtoC(double millivolts);
-double JmVtoC(double millivolts);
+double TmVtoC(double mV);
+double SmVtoC(double mV);
+double RmVtoC(double mV);
+double BmVtoC(double mV);
+double NmVtoC(double mV);
+double EmVtoC(double mV);
+double KmVtoC(double mV);
+double JmVtoC(double mV);
 
 // A polynomial of ascending powers and its derivative, summed with a running power.
 double Poly(const double* coefficients, int degree, double t);

@@ -34,19 +34,29 @@ struct Steed {
 
     bool cf1() {
         h = nu * xi;
-        if (h < FPMIN) h = FPMIN;
+        if (h < FPMIN) {
+            h = FPMIN;
+        }
         double b = xi2 * nu, d = 0, c = h, del = 0;
         for (int i = 0; i < MAXIT; ++i) {
             b = b + xi2;
             d = b - d;
-            if (std::fabs(d) < FPMIN) d = FPMIN;
+            if (std::fabs(d) < FPMIN) {
+                d = FPMIN;
+            }
             c = b - 1 / c;
-            if (std::fabs(c) < FPMIN) c = FPMIN;
+            if (std::fabs(c) < FPMIN) {
+                c = FPMIN;
+            }
             d = 1 / d;
             del = c * d;
             h = del * h;
-            if (d < 0) isign = -isign;
-            if (std::fabs(del - 1) < EPS) return true;
+            if (d < 0) {
+                isign = -isign;
+            }
+            if (std::fabs(del - 1) < EPS) {
+                return true;
+            }
         }
         return false;
     }
@@ -63,7 +73,9 @@ struct Steed {
             rjpl = fact * rjtemp - rjl;
             rjl = rjtemp;
         }
-        if (rjl == 0) rjl = EPS;
+        if (rjl == 0) {
+            rjl = EPS;
+        }
         f = rjpl / rjl;
     }
 
@@ -114,11 +126,15 @@ struct Steed {
             bi = bi + 2;
             dr = a * dr + br;
             di = a * di + bi;
-            if (std::fabs(dr) + std::fabs(di) < FPMIN) dr = FPMIN;
+            if (std::fabs(dr) + std::fabs(di) < FPMIN) {
+                dr = FPMIN;
+            }
             fact = a / (cr * cr + ci * ci);
             cr = br + cr * fact;
             ci = bi - ci * fact;
-            if (std::fabs(cr) + std::fabs(ci) < FPMIN) cr = FPMIN;
+            if (std::fabs(cr) + std::fabs(ci) < FPMIN) {
+                cr = FPMIN;
+            }
             den = dr * dr + di * di;
             dr = dr / den;
             di = di / -den;
@@ -138,7 +154,9 @@ struct Steed {
     void finish(double p, double q) {
         const double gam = (p - f) / q;
         rjmu = std::sqrt(w / ((p - f) * gam + q));
-        if (!(rjl >= 0)) rjmu = -rjmu;
+        if (!(rjl >= 0)) {
+            rjmu = -rjmu;
+        }
         rymu = rjmu * gam;
         const double rymup = rymu * (p + q / gam);
         ry1 = mu * xi * rymu - rymup;
@@ -156,13 +174,19 @@ struct Steed {
 }  // namespace
 
 BesselStatus naiveBessjy(double x, double nu, BesselValues& values) {
-    if (x <= 0 || nu < 0) return BesselStatus::badArgument;
+    if (x <= 0 || nu < 0) {
+        return BesselStatus::badArgument;
+    }
     Steed s{.x = x, .nu = nu};
     s.prepare();
-    if (!s.cf1()) return BesselStatus::xTooLarge;
+    if (!s.cf1()) {
+        return BesselStatus::xTooLarge;
+    }
     s.down();
     if (x < 2.0) {
-        if (!s.temme()) return BesselStatus::seriesDiverged;
+        if (!s.temme()) {
+            return BesselStatus::seriesDiverged;
+        }
     } else if (!s.cf2()) {
         return BesselStatus::fractionDiverged;
     }
