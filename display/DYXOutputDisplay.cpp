@@ -6,6 +6,7 @@
 
 #include "display/ZUTextFieldExtensions.h"
 #include "display/display_modes.h"
+#include "display/number_text.h"
 #include "numeric/DYXnan.h"
 
 namespace talvex {
@@ -49,40 +50,60 @@ void DYXOutputDisplay::syncToDisplay(const DYXOutputDisplay& line) {
     }
 }
 
-// A mode without a formatter of its own declines, and the number shows as in FIX.
-DYXOutputDisplay::Formatter DYXOutputDisplay::formatterForMode(std::int32_t mode) {
-    static constexpr std::array<Formatter, mode::count> kFormatters = [] {
-        std::array<Formatter, mode::count> rows{};
-        rows.fill(&DYXOutputDisplay::setFixedTo);
-        rows[mode::SCI] = &DYXOutputDisplay::setScientificTo;
-        return rows;
-    }();
-    return kFormatters.at(static_cast<std::size_t>(mode));
+const DYXOutputDisplay::ModeRow& DYXOutputDisplay::rowOfMode(std::int32_t mode) {
+    using Line = DYXOutputDisplay;
+    static constexpr std::array<ModeRow, mode::count> kModes{{
+        {.formatter = &Line::setFixedTo, .irrationals = Irrationals::ifDisplayed},
+        {.formatter = &Line::setScientificTo, .irrationals = Irrationals::ifDisplayed},
+        {.formatter = &Line::setEngineeringTo, .irrationals = Irrationals::ifDisplayed},
+        {.formatter = &Line::setMonetaryTo},
+        {.formatter = &Line::setFractionTo, .irrationals = Irrationals::ifDisplayed},
+        {.formatter = &Line::setCarpentryTo, .irrationals = Irrationals::always},
+        {.formatter = &Line::setHMSTo},
+        {.formatter = &Line::setDMSTo},
+        {.formatter = &Line::setHEXTo},
+        {.formatter = &Line::setDecimalTo},
+        {.formatter = &Line::setOctalTo},
+        {.formatter = &Line::setBinaryTo},
+        {.formatter = &Line::setFixedTo, .irrationals = Irrationals::always, .triesFraction = true},
+    }};
+    return kModes.at(static_cast<std::size_t>(mode));
+}
+
+void DYXOutputDisplay::format(const ModeRow& row, double number) {
+    const bool triesIrrationals =
+        row.irrationals == Irrationals::always ||
+        (row.irrationals == Irrationals::ifDisplayed && displayIrrationals_);
+    if ((triesIrrationals && setIrrationalTo(number)) ||
+        (row.triesFraction && setIrrationalFractionTo(number))) {
+        return;
+    }
+    (this->*row.formatter)(number);
 }
 
 void DYXOutputDisplay::setOutputTo(double number) {
     setTextColor(NSColor::black());
     updateOutputJustification();
     if (std::isnan(number)) {
-        writeLine(DYXnanString(number), u"");
+        show({.mantissa = DYXnanString(number)});
         return;
     }
     if (std::isinf(number)) {
-        writeLine({kInfinity}, std::signbit(number) ? u"-" : u"");
+        show({.mantissa = {kInfinity}, .sign = signBitText(number)});
         return;
     }
     const std::int32_t mode = effectiveOutputMode();
     if (isDisplayMode(mode)) {
-        (this->*formatterForMode(mode))(number);
+        format(rowOfMode(mode), number);
     }
 }
 
-void DYXOutputDisplay::writeLine(std::u16string mantissa, std::u16string sign) {
-    writeMantissa(std::move(mantissa));
-    writeMantissaSign(std::move(sign));
-    writeExponentSign(u"");
-    writeExponent(u"");
-    writeStatus(u"");
+void DYXOutputDisplay::show(LineText text) {
+    writeMantissa(std::move(text.mantissa));
+    writeMantissaSign(std::move(text.sign));
+    writeExponentSign(std::move(text.exponentSign));
+    writeExponent(std::move(text.exponent));
+    writeStatus(std::move(text.status));
 }
 
 void DYXOutputDisplay::setIntegerGroupingSeparator(std::u16string separator) {

@@ -93,6 +93,12 @@ class DYXOutputDisplay {
     // The title of `outputMode`; "???" outside 0 to 12.
     [[nodiscard]] std::u16string outputModeTitle() const;
 
+    // The status words of a fraction, one pair for all lines.
+    [[nodiscard]] static const std::u16string& exactStr() { return exactStr_; }
+    [[nodiscard]] static const std::u16string& approxStr() { return approxStr_; }
+    static void setExactStr(std::u16string text) { exactStr_ = std::move(text); }
+    static void setApproxStr(std::u16string text) { approxStr_ = std::move(text); }
+
     // The colour of a warning.
     static NSColor errorColor();
     // The colour of all slots but the status; black if none is given.
@@ -111,6 +117,28 @@ class DYXOutputDisplay {
     void setFixedTo(double number);
     // One digit, decimals in groups of three, and an exponent of at least two digits.
     void setScientificTo(double number);
+    // Plain decimals up to 10 to the power `digits`, less 1; beyond, scientific form.
+    void setMonetaryTo(double number);
+    // An exponent that is a multiple of 3, and one to three digits ahead of the point.
+    void setEngineeringTo(double number);
+    // Whole part and the nearest fraction with a denominator up to 99999; FIX from 2^31.
+    void setFractionTo(double number);
+    // Whole part and halves, quarters, up to 512ths, cut off to the mark below; FIX from 2^32.
+    void setCarpentryTo(double number);
+    // The number modulo 24 as hours, minutes and seconds, and modulo 360 as an angle.
+    void setHMSTo(double number);
+    void setDMSTo(double number);
+    // The nearest 32-bit integer, unsigned but in DEC, with a warning where it isn't the number.
+    void setHEXTo(double number);
+    void setDecimalTo(double number);
+    void setOctalTo(double number);
+    void setBinaryTo(double number);
+
+    // A multiple, by a fraction with a denominator up to 999, of pi, the roots of 2 and 3, e or
+    // 1/pi, tried in this order; and the fraction itself. False if the number is none to the last
+    // bit but one: the next formatter is to go on.
+    bool setIrrationalTo(double number);
+    bool setIrrationalFractionTo(double number);
 
   protected:
     static void write(const TextSlot& slot, std::u16string text);
@@ -121,11 +149,43 @@ class DYXOutputDisplay {
     void writeStatus(std::u16string text) { write(fields_.status, std::move(text)); }
 
   private:
-    using Formatter = void (DYXOutputDisplay::*)(double);
+    // How a mode shows a number: by the first of its tries that fits, or else by its formatter.
+    enum class Irrationals { never, ifDisplayed, always };
+    struct ModeRow {
+        void (DYXOutputDisplay::*formatter)(double);
+        Irrationals irrationals = Irrationals::never;
+        bool triesFraction = false;
+    };
+    static const ModeRow& rowOfMode(std::int32_t mode);
+    void format(const ModeRow& row, double number);
 
-    static Formatter formatterForMode(std::int32_t mode);
-    // Words or a plain number: the text, its sign, and nothing else on the line.
-    void writeLine(std::u16string mantissa, std::u16string sign);
+    // All that a line says of a number.
+    struct LineText {
+        std::u16string mantissa;
+        std::u16string sign = {};
+        std::u16string exponentSign = {};
+        std::u16string exponent = {};
+        std::u16string status = {};
+    };
+    void show(LineText text);
+    // Printed decimals with the line's point and groups.
+    [[nodiscard]] std::u16string pointedText(std::u16string text) const;
+    // A whole number in the line's groups.
+    [[nodiscard]] std::u16string groupedInteger(double number) const;
+    // The whole part alone if `digits` is 0 or there is no fraction; the fraction alone if the
+    // whole part is "0".
+    [[nodiscard]] std::u16string mixedFractionText(std::u16string whole, double numerator,
+                                                   double denominator) const;
+
+    struct SexagesimalLayout;
+    void setSexagesimalTo(double number, const SexagesimalLayout& layout);
+    struct IntegerView;
+    void showInteger(std::u16string mantissa, const IntegerView& view);
+    struct GroupedBase;
+    void setGroupedBaseTo(double number, const GroupedBase& base);
+
+    static inline std::u16string exactStr_ = u"exact";
+    static inline std::u16string approxStr_ = u"approx";
 
     std::uint32_t digits_ = 4;
     std::uint32_t maxDigits_ = 19;

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 #include "display/DYXOutputDisplay.h"
 #include "display/ZUMutableStringExtensions.h"
 #include "display/ascii_text.h"
+#include "display/number_text.h"
 #include "numeric/decimal_text.h"
 
 namespace talvex {
@@ -14,19 +14,29 @@ namespace {
 
 constexpr std::uint32_t kScientificGroup = 3;
 
-std::u16string signText(double number) { return std::signbit(number) ? u"-" : u""; }
-
-std::u16string exponentText(int exponent) {
-    const std::string digits = std::to_string(std::abs(exponent));
-    return asciiText(digits.size() < 2 ? '0' + digits : digits);
-}
-
 // The text of zero has only zeros, so a text with another digit is another text.
 bool showsAsZero(const std::string& text) {
     return text.find_first_of("123456789") == std::string::npos;
 }
 
 }  // namespace
+
+std::u16string DYXOutputDisplay::pointedText(std::u16string text) const {
+    std::replace(text.begin(), text.end(), u'.', decimalSeparator_);
+    // In this order: both look for the first separator, and the integer groups may bring one.
+    ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, decimalGroupingSeparator_,
+                                                           groupingDigits_);
+    ZUMutableStringExtensions::insertIntegerSeparatorEvery(text, integerGroupingSeparator_,
+                                                           groupingDigits_);
+    return text;
+}
+
+std::u16string DYXOutputDisplay::groupedInteger(double number) const {
+    std::u16string text = asciiText(fixedText(std::fabs(number), 0));
+    ZUMutableStringExtensions::insertIntegerSeparatorEvery(text, integerGroupingSeparator_,
+                                                           groupingDigits_);
+    return signText(number) + text;
+}
 
 void DYXOutputDisplay::setFixedTo(double number) {
     // No text with more places than that is plain, so that no more need be printed.
@@ -36,14 +46,7 @@ void DYXOutputDisplay::setFixedTo(double number) {
         setScientificTo(number);
         return;
     }
-    std::u16string text = asciiText(plain);
-    std::replace(text.begin(), text.end(), u'.', decimalSeparator_);
-    // In this order: both look for the first separator, and the integer groups may bring one.
-    ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, decimalGroupingSeparator_,
-                                                           groupingDigits_);
-    ZUMutableStringExtensions::insertIntegerSeparatorEvery(text, integerGroupingSeparator_,
-                                                           groupingDigits_);
-    writeLine(std::move(text), signText(number));
+    show({.mantissa = pointedText(asciiText(plain)), .sign = signBitText(number)});
 }
 
 void DYXOutputDisplay::setScientificTo(double number) {
@@ -52,11 +55,10 @@ void DYXOutputDisplay::setScientificTo(double number) {
     std::replace(text.begin(), text.end(), u'.', decimalSeparator_);
     ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, decimalGroupingSeparator_,
                                                            kScientificGroup);
-    writeMantissa(std::move(text));
-    writeExponentSign(printed.exponent < 0 ? u"-" : u"");
-    writeExponent(exponentText(printed.exponent));
-    writeMantissaSign(signText(number));
-    writeStatus(u"");
+    show({.mantissa = std::move(text),
+          .sign = signBitText(number),
+          .exponentSign = signText(printed.exponent),
+          .exponent = exponentText(printed.exponent)});
 }
 
 }  // namespace talvex

@@ -1,45 +1,15 @@
 // Any series of commands, keys, clicks and choices leaves a calculator that still holds together.
 
-#include <array>
-#include <bit>
 #include <cstdint>
-#include <cstdlib>
-#include <span>
 
 #include "core/function_tables.h"
+#include "fuzz_input.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/NSEvent.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
 namespace {
-
-void require(bool condition) {
-    if (!condition) {
-        std::abort();
-    }
-}
-
-// Takes the input apart; zeros follow its end.
-class Bytes {
-  public:
-    explicit Bytes(std::span<const std::uint8_t> data) : data_(data) {}
-
-    [[nodiscard]] bool isAtEnd() const { return data_.empty(); }
-
-    template <class Number>
-    Number take() {
-        std::array<std::uint8_t, sizeof(Number)> bytes{};
-        for (std::uint8_t& byte : bytes) {
-            byte = isAtEnd() ? 0 : data_.front();
-            data_ = data_.subspan(isAtEnd() ? 0 : 1);
-        }
-        return std::bit_cast<Number>(bytes);
-    }
-
-  private:
-    std::span<const std::uint8_t> data_;
-};
 
 void checkInvariants(DYXWindowController& calculator) {
     constexpr std::size_t kLongestText = 2200;
@@ -58,7 +28,7 @@ void checkInvariants(DYXWindowController& calculator) {
 }
 
 // A command that does something more often than four random letters do.
-Comand likelyCommand(Bytes& bytes) {
+Comand likelyCommand(FuzzInput& bytes) {
     const auto keys = keyPadRows();
     const auto hotKeys = hotKeyRows();
     const std::size_t choice = bytes.take<std::uint16_t>() % (keys.size() + hotKeys.size());
@@ -66,7 +36,7 @@ Comand likelyCommand(Bytes& bytes) {
                                 : hotKeys[choice - keys.size()].command;
 }
 
-std::u16string randomText(Bytes& bytes) {
+std::u16string randomText(FuzzInput& bytes) {
     std::u16string text(bytes.take<std::uint8_t>() % 14, u' ');
     for (char16_t& character : text) {
         character = bytes.take<char16_t>();
@@ -74,7 +44,7 @@ std::u16string randomText(Bytes& bytes) {
     return text;
 }
 
-void act(DYXWindowController& calculator, Bytes& bytes) {
+void act(DYXWindowController& calculator, FuzzInput& bytes) {
     switch (bytes.take<std::uint8_t>() % 16) {
         case 0:
             calculator.doCommand({bytes.take<std::uint32_t>(), bytes.take<std::uint32_t>(),
@@ -131,7 +101,7 @@ void act(DYXWindowController& calculator, Bytes& bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     talvex::HeadlessPlatform platform;
     talvex::DYXWindowController calculator(platform);
-    talvex::Bytes bytes({data, size});
+    talvex::FuzzInput bytes({data, size});
     while (!bytes.isAtEnd()) {
         talvex::act(calculator, bytes);
         talvex::checkInvariants(calculator);

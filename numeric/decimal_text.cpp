@@ -13,6 +13,8 @@ namespace {
 constexpr std::size_t kLongestText = kMostDecimalPlaces + 320;
 using Buffer = std::array<char, kLongestText>;
 
+constexpr unsigned kGeneralDigits = 6;
+
 std::string print(double value, std::chars_format format, unsigned places) {
     Buffer buffer;
     const int precision = static_cast<int>(std::min(places, kMostDecimalPlaces));
@@ -51,6 +53,10 @@ bool startsLikeNumber(std::string_view text) {
 
 std::string fixedText(double value, unsigned places) {
     return print(value, std::chars_format::fixed, places);
+}
+
+std::string generalText(double value) {
+    return print(value, std::chars_format::general, kGeneralDigits);
 }
 
 ScientificText scientificText(double value, unsigned places) {

@@ -15,6 +15,9 @@ inline constexpr unsigned kMostDecimalPlaces = 1074;
 // beyond `kMostDecimalPlaces` are left out.
 std::string fixedText(double value, unsigned places);
 
+// A finite `value` with six significant digits, plain or with an exponent, as "%g" prints it.
+std::string generalText(double value);
+
 // A number in scientific form: one digit, a point if there are more, the other digits; and the
 // decimal exponent.
 struct ScientificText {

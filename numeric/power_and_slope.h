@@ -14,7 +14,8 @@ double DYXConvertdBmV50(const DYXMathContext& context, double value, Conversion 
 double DYXConvertdBmV75(const DYXMathContext& context, double value, Conversion direction);
 
 // The tangent of an angle in per cent, and as a number; base unit the degree. At multiples of 90
-// degrees exactly: 0, +infinity at 90 degrees and -infinity at 270, whatever the number of turns.
+// degrees exactly: 0, +infinity at 90 degrees and -infinity at 270, also after full turns; 0 beyond
+// 2^31 quarter turns.
 double DYXConvertPercentGrade(const DYXMathContext& context, double value, Conversion direction);
 double DYXConvertSlope(const DYXMathContext& context, double value, Conversion direction);
 

@@ -8,8 +8,9 @@ namespace talvex {
 double cheb(unsigned int n, unsigned int k);
 
 // The Riemann zeta function of a real argument, by Borwein's second algorithm with n = 50 over the
-// whole line. A few units in the last place for positive s; below 0 the alternating terms grow and
-// digits are lost, all of them from about -10 on. The pole at 1 is a NaN without a code.
+// whole line. A few units in the last place for positive s, but near the pole, where digits are
+// lost in proportion to 1 / |s - 1|; below 0 the alternating terms grow, and from about -10 on no
+// digit is left. The pole at 1 is a NaN without a code.
 double riemannzeta(double s);
 
 }  // namespace talvex

@@ -2,8 +2,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <optional>
-#include <ostream>
 #include <string>
 #include <utility>
 
@@ -12,6 +10,7 @@
 #include "display/ZUMutableStringExtensions.h"
 #include "display/display_modes.h"
 #include "numeric/DYXnan.h"
+#include "shown_line.h"
 
 namespace talvex {
 namespace {
@@ -19,86 +18,6 @@ namespace {
 using Text = std::u16string;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-// What a line shows, slot by slot.
-struct Shown {
-    Text mantissa = {};
-    Text exponent = {};
-    Text exponentSign = {};
-    Text sign = {};
-    Text status = {};
-    bool operator==(const Shown&) const = default;
-};
-
-void PrintTo(const Shown& shown, std::ostream* out) {
-    for (const Text& text : {shown.sign, shown.mantissa, shown.exponentSign, shown.exponent}) {
-        *out << testing::PrintToString(text) << ' ';
-    }
-    *out << testing::PrintToString(shown.status);
-}
-
-Shown shownBy(const DYXOutputDisplay& line) {
-    const auto textOf = [](const TextSlot& slot) { return slot ? slot->stringValue() : Text(); };
-    return {.mantissa = textOf(line.mantissaField()),
-            .exponent = textOf(line.exponentField()),
-            .exponentSign = textOf(line.exponentSignField()),
-            .sign = textOf(line.mantissaSignField()),
-            .status = textOf(line.statusField())};
-}
-
-struct FormatRow {
-    const char* name;
-    std::int32_t mode;
-    std::uint32_t digits;
-    double number;
-    Shown shown;
-    Text integerSeparator = {};
-    Text decimalSeparator = {};
-    char16_t point = u'.';
-};
-
-TEST(PlainFormats, FillEverySlot) {
-    const FormatRow rows[]{
-        {"grouped", mode::FIX, 4, 1234567.891, {u"1,234,567.891\u20090"}, u",", u"\u2009"},
-        {"ungrouped", mode::FIX, 4, 1234.5678, {u"1234.5678"}},
-        {"rounds up to a digit", mode::FIX, 4, 0.00005, {u"0.0001"}},
-        {"too small to show", mode::FIX, 4, 0.00004, {u"4.0000", u"05", u"-"}},
-        {"too long", mode::FIX, 4, 1e300, {u"1.0000", u"300"}},
-        {"19 characters", mode::FIX, 4, 99999999999999, {u"99999999999999.0000"}},
-        {"20 characters", mode::FIX, 4, 100000000000000, {u"1.0000", u"14"}},
-        {"19 whole digits", mode::FIX, 0, 9999000000000000000.0, {u"9999000000000000000"}},
-        {"20 whole digits", mode::FIX, 0, 1e19, {u"1", u"19"}},
-        {"9 digits, 9 places", mode::FIX, 9, 999999999, {u"999999999.000000000"}},
-        {"10 digits, 9 places", mode::FIX, 9, 1000000000, {u"1.000000000", u"09"}},
-        {"fixed zero", mode::FIX, 4, 0.0, {u"0.0000"}},
-        {"tie to even", mode::FIX, 0, 2.5, {u"2"}},
-        {"prints as zero", mode::FIX, 0, 0.4, {u"4", u"01", u"-"}},
-        {"point as group", mode::FIX, 4, 1234567.891, {u"1.234.567,891_0"}, u".", u"_", u','},
-        {"other point", mode::FIX, 1, 1234.5, {u"123,4\u066B5"}, u",", u"_", u'\u066B'},
-        {"SCI in threes", mode::SCI, 4, 1234.5678, {u"1.234\u20096", u"03"}, u"", u"\u2009"},
-        {"SCI zero", mode::SCI, 4, 0.0, {u"0.0000", u"00"}},
-        {"SCI small", mode::SCI, 4, 1e-100, {u"1.0000", u"100", u"-"}},
-        {"SCI large", mode::SCI, 4, 1.23e100, {u"1.2300", u"100"}},
-        {"SCI carry", mode::SCI, 4, 999.99999, {u"1.0000", u"03"}},
-        {"SCI without point", mode::SCI, 0, 0.5, {u"5", u"01", u"-"}},
-        {"SCI full groups", mode::SCI, 9, 1234.5678, {u"1,234_567_800", u"03"}, u".", u"_", u','},
-    };
-    for (const FormatRow& row : rows) {
-        SCOPED_TRACE(row.name);
-        DYXOutputDisplay line(DYXCalculator::plainFields());
-        line.setOutputMode(row.mode);
-        line.setDigits(row.digits);
-        line.setDecimalSeparator(row.point);
-        line.setIntegerGroupingSeparator(row.integerSeparator);
-        line.setDecimalGroupingSeparator(row.decimalSeparator);
-        Shown negative = row.shown;
-        negative.sign = u"-";
-        line.setOutputTo(-row.number);
-        EXPECT_EQ(shownBy(line), negative);
-        line.setOutputTo(row.number);
-        EXPECT_EQ(shownBy(line), row.shown);
-    }
-}
 
 TEST(PlainFormats, GroupBySizeButScientificAlwaysByThree) {
     DYXOutputDisplay line(DYXCalculator::plainFields());

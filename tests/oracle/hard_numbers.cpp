@@ -58,6 +58,10 @@ double HardNumbers::between(double low, double high) {
     return low + (high - low) * std::uniform_real_distribution<double>()(random_);
 }
 
+int HardNumbers::below(int count) {
+    return static_cast<int>(random_() % static_cast<unsigned>(count));
+}
+
 double HardNumbers::next() {
     const std::uint64_t bits = random_();
     const double sign = random_() % 2 == 0 ? 1.0 : -1.0;

@@ -14,6 +14,8 @@ class HardNumbers {
     double next();
     // From low to high, evenly.
     double between(double low, double high);
+    // A whole number from 0 to below `count`.
+    int below(int count);
 
   private:
     std::mt19937_64 random_;

@@ -35,6 +35,19 @@ double naiveZeta(double s) {
     return sum / ((1.0 - std::pow(2.0, 1.0 - s)) * d);
 }
 
+std::uint32_t naiveDenominator(double f, std::uint32_t limit) {
+    double best = limit;
+    std::uint32_t bestDenominator = limit;
+    for (std::uint32_t d = limit; d >= 1; --d) {
+        const double error = std::fabs(std::rint(f * d) / d - f);
+        if (error <= best) {
+            best = error;
+            bestDenominator = d;
+        }
+    }
+    return bestDenominator;
+}
+
 double naiveNewton(double (*function)(double), double (*derivative)(double), double target,
                    double start, double tolerance) {
     double x = start;

@@ -11,6 +11,8 @@ namespace talvex {
 double naiveBinomial(std::uint32_t n, std::uint32_t k);
 double naiveZeta(double s);
 BesselStatus naiveBessjy(double x, double nu, BesselValues& values);
+// `bestDenominator`.
+std::uint32_t naiveDenominator(double f, std::uint32_t limit);
 double naiveNewton(double (*function)(double), double (*derivative)(double), double target,
                    double start, double tolerance);
 

@@ -1,0 +1,105 @@
+// The walk to the nearest fraction against the search that tries every denominator.
+
+#include "numeric/fraction_search.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <cstdlib>
+
+#include "oracle/hard_numbers.h"
+#include "oracle/naive_functions.h"
+
+namespace talvex {
+namespace {
+
+constexpr std::array kConstants{3.141592653589793, 1.4142135623730951, 1.7320508075688772,
+                                2.718281828459045, 0.3183098861837907};
+
+double fractionOf(double value) { return value - std::floor(value); }
+
+double neighbour(HardNumbers& numbers, double value) {
+    for (int steps = numbers.below(4); steps > 0; --steps) {
+        value = std::nextafter(value, numbers.below(2) == 0 ? 0.0 : 1.0);
+    }
+    return value;
+}
+
+// Random; fractions with denominators around the limit and multiples of constants, and their
+// neighbours; just off a half; tiny; nearly whole; convergents of quadratic irrationals; halfway
+// between two fractions of the largest denominators.
+double hardFraction(HardNumbers& numbers, int limit) {
+    const auto near = [&] { return std::ldexp(numbers.between(-1.0, 1.0), -numbers.below(60)); };
+    const auto ratio = [&](int most) { return numbers.below(most) / (1.0 + numbers.below(most)); };
+    switch (numbers.below(9)) {
+        case 0:
+            return numbers.between(0.0, 1.0);
+        case 1:
+            return neighbour(numbers, fractionOf(ratio(limit)));
+        case 2:
+            return neighbour(numbers, fractionOf(ratio(2 * limit)));
+        case 3:
+            return neighbour(numbers,
+                             fractionOf(kConstants.at(static_cast<std::size_t>(numbers.below(5))) *
+                                        ratio(5000)));
+        case 4:
+            return 0.5 + near() / 2.0;
+        case 5:
+            return std::fabs(near());
+        case 6:
+            return 1.0 - std::fabs(near());
+        case 7:
+            return fractionOf(std::sqrt(2.0 + numbers.below(5000)));
+        default:
+            return numbers.below(2 * limit) / (2.0 * limit) + near() / limit;
+    }
+}
+
+void expectSameAsTryingAll(int limit, int values, std::uint64_t seed) {
+    HardNumbers numbers(seed);
+    for (int value = 0; value < values;) {
+        const double f = hardFraction(numbers, limit);
+        if (f > 0.0 && f < 1.0) {
+            const auto most = static_cast<std::uint32_t>(limit);
+            ASSERT_EQ(bestDenominator(f, most), naiveDenominator(f, most))
+                << std::hexfloat << f << " with denominators up to " << limit;
+            ++value;
+        }
+    }
+}
+
+TEST(FractionSearch, FindsWhatTryingAllFinds) {
+    expectSameAsTryingAll(999, 150'000, 1);
+    for (const int limit : {2, 3, 5, 10, 36}) {
+        expectSameAsTryingAll(limit, 10'000, 2);
+    }
+    // Each of these takes half a millisecond to check; the variable asks for more.
+    const char* const more = std::getenv("TALVEX_FRACTION_SEARCHES");
+    expectSameAsTryingAll(99999, more == nullptr ? 1'000 : std::atoi(more), 3);
+}
+
+TEST(FractionSearch, ChoosesTheSmallestOfEqualErrors) {
+    for (int d = 1; d <= 2000; ++d) {
+        for (const int n : {1, d / 3, d / 2, d - 1}) {
+            if (n > 0 && n < d) {
+                const double f = n / static_cast<double>(d);
+                const std::uint32_t denominator = bestDenominator(f, 99999);
+                EXPECT_EQ(f, nearestNumerator(f, denominator) / denominator);
+                EXPECT_EQ(static_cast<std::uint32_t>(d) % denominator, 0U) << n << "/" << d;
+            }
+        }
+    }
+}
+
+TEST(FractionSearch, CallsEqualAndNeighbouringDoublesClose) {
+    EXPECT_TRUE(areClose(0.3, 0.3));
+    EXPECT_TRUE(areClose(0.1 + 0.2, 0.3));
+    EXPECT_TRUE(areClose(0.3, 0.1 + 0.2));
+    EXPECT_FALSE(areClose(0.3, std::nextafter(0.1 + 0.2, 1.0)));
+    EXPECT_TRUE(areClose(0.0, 5e-324));
+    EXPECT_FALSE(areClose(0.0, 1e-323));
+}
+
+}  // namespace
+}  // namespace talvex
