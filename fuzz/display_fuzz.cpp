@@ -124,8 +124,9 @@ double quotientBy(const std::u16string& symbol, double number) {
 void checkFraction(const DYXOutputDisplay& line, double magnitude) {
     const Multiple multiple = parseMultiple(line.mantissaField()->stringValue());
     const bool isExact = line.statusField()->stringValue() == DYXOutputDisplay::exactStr();
-    if (multiple.symbol.empty() && line.digits() == 0) {
-        return;  // the fraction isn't on show
+    // At 0 digits the fraction isn't on show; so near to zero a quotient is the neighbour of zero.
+    if ((multiple.symbol.empty() && line.digits() == 0) || magnitude < 1e-322) {
+        return;
     }
     const double shown = multiple.numerator / multiple.denominator;
     const double quotient = quotientBy(multiple.symbol, magnitude);

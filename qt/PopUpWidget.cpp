@@ -1,3 +1,4 @@
+#include <QCursor>
 #include <QMenu>
 #include <QPainter>
 
@@ -32,7 +33,11 @@ void PopUpWidget::showMenu() {
         action->setEnabled(item.enabled);
         connect(action, &QAction::triggered, this, [item] { item.action(item); });
     }
-    connect(menu, &QMenu::aboutToHide, this, [this] { setDown(false); });
+    connect(menu, &QMenu::aboutToHide, this, [this] {
+        setDown(false);
+        // The menu had the mouse: nothing has told that it left.
+        setAttribute(Qt::WA_UnderMouse, rect().contains(mapFromGlobal(QCursor::pos())));
+    });
     menu->popup(mapToGlobal(rect().bottomLeft()));
 }
 

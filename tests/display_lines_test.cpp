@@ -138,6 +138,48 @@ TEST_F(WindowLines, GroupByTheSettings) {
     }
 }
 
+// 1234.5678 with the groups of a first start, in X and in the lines that follow it.
+TEST_F(WindowLines, ShowOneNumberInThirteenModes) {
+    const Text inexact = u"inexact (1234.567800000)";
+    const struct {
+        int mode;
+        Text mantissa, withComma, exponent, status;
+    } rows[]{
+        {0, u"1,234.567\u20098", u"1.234,567\u20098", u"", u""},
+        {1, u"1.234\u20096", u"1,234\u20096", u"03", u""},
+        {2, u"1.234\u20096", u"1,234\u20096", u"03", u""},
+        {3, u"1,234.567\u20098", u"1.234,567\u20098", u"", u""},
+        {4, u"1,234  2839/5000", u"1.234  2839/5000", u"", u"exact"},
+        {5, u"1,234  290/512", u"1.234  290/512", u"", u"approx"},
+        {6, u"10 : 34 : 04.0800", u"10 : 34 : 04,0800", u"", u""},
+        {7, u"154\u00B0 34' 04.0800\"", u"154\u00B0 34' 04,0800\"", u"", u""},
+        {8, u"00\u200900\u221904\u2009D3", u"00\u200900\u221904\u2009D3", u"hex", inexact},
+        {9, u"1,235", u"1.235", u"dec", inexact},
+        {10, u"000\u2009000\u2219002\u2009323", u"000\u2009000\u2219002\u2009323", u"oct", inexact},
+        {11, u"0000 0100 1101 0011 ", u"0000 0100 1101 0011 ", u"bin", inexact},
+        {12, u"1,234.567\u20098", u"1.234,567\u20098", u"", u""},
+    };
+    controller.stack().reg.fill(1234.5678);
+    for (const int decimalMode : {1, 2}) {
+        controller.setDecimalMode(decimalMode);
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.mode);
+            controller.takeInputModeFrom(itemOf(row.mode));
+            const DYXOutputDisplay& x = controller.xDisplay();
+            EXPECT_EQ(mantissaOf(x), decimalMode == 1 ? row.mantissa : row.withComma);
+            EXPECT_EQ(x.exponentField()->stringValue(), row.exponent);
+            EXPECT_EQ(x.statusField()->stringValue(), row.status);
+            for (const DYXOutputDisplay* line :
+                 {&controller.yDisplay(), &controller.zDisplay(), &controller.tDisplay()}) {
+                EXPECT_EQ(mantissaOf(*line), mantissaOf(x));
+                EXPECT_EQ(line->exponentField()->stringValue(), row.exponent);
+                EXPECT_EQ(line->mantissaField()->alignment(), x.mantissaField()->alignment());
+                EXPECT_EQ(line->mantissaField()->textColor(), x.mantissaField()->textColor());
+            }
+        }
+    }
+}
+
 TEST_F(WindowLines, ShowAllFourWithTheTopLeftCornerAndTheKeyPadInPlace) {
     WindowViews& views = controller.views();
     const NSRect window{100, 300, 404, 233};
