@@ -108,16 +108,21 @@ Multiple parseMultiple(const std::u16string& text) {
 }
 
 double quotientBy(const std::u16string& symbol, double number) {
-    return symbol.empty()         ? number
-           : symbol == u"\u03C0"  ? number / kPi
-           : symbol == u"\u221A2" ? number / 1.4142135623730951
-           : symbol == u"\u221A3" ? number / 1.7320508075688772
-           : symbol == u"e"       ? number / 2.718281828459045
-           : symbol ==
-                   u"\u03C0"
-                   u"i"
-               ? number * kPi
-               : std::nan("");
+    struct Row {
+        std::u16string_view symbol;
+        double constant;
+    };
+    constexpr std::array<Row, 5> kRows{{{u"", 1.0},
+                                        {u"\u03C0", kPi},
+                                        {u"\u221A2", 1.4142135623730951},
+                                        {u"\u221A3", 1.7320508075688772},
+                                        {u"e", 2.718281828459045}}};
+    for (const Row& row : kRows) {
+        if (row.symbol == symbol) {
+            return number / row.constant;
+        }
+    }
+    return number * kPi;
 }
 
 // "exact" stands where the fraction on show is the number to the last bit but one, and only there.
@@ -141,7 +146,7 @@ void checkInteger(const DYXOutputDisplay& line, double number) {
     const int radix = name == u"hex" ? 16 : name == u"oct" ? 8 : name == u"bin" ? 2 : 10;
     const std::string digits =
         plain(line.mantissaField()->stringValue(), u'\0', "-0123456789ABCDEF");
-    const double shown = static_cast<double>(std::strtoll(digits.c_str(), nullptr, radix));
+    const auto shown = static_cast<double>(std::strtoll(digits.c_str(), nullptr, radix));
     const bool isSigned = radix == 10;
     const double nearest = isSigned ? std::round(number) : std::floor(number + 0.5);
     const double low = isSigned ? -2147483648.0 : 0.0;

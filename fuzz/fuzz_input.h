@@ -3,18 +3,13 @@
 #include <array>
 #include <bit>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
-#include <source_location>
 #include <span>
 
 namespace talvex {
 
-// Ends the program where a condition that always holds doesn't.
-inline void require(bool condition,
-                    const std::source_location& place = std::source_location::current()) {
+inline void require(bool condition) {
     if (!condition) {
-        std::fprintf(stderr, "line %u: a requirement fails\n", static_cast<unsigned>(place.line()));
         std::abort();
     }
 }
