@@ -1,8 +1,10 @@
 #include <QApplication>
+#include <QSessionManager>
 #include <clocale>
 
 #include "qt/CalculatorWindow.h"
 #include "qt/QtPlatform.h"
+#include "termination_signals.h"
 #include "ui/DYXWindowController.h"
 
 int main(int argc, char** argv) {
@@ -16,12 +18,17 @@ int main(int argc, char** argv) {
     talvex::QtPlatform platform;
     talvex::DYXWindowController controller(platform);
     talvex::CalculatorWindow window(controller);
+    const talvex::TerminationSignals terminationSignals;
     QObject::connect(&application, &QGuiApplication::applicationStateChanged, &window,
                      [&controller](Qt::ApplicationState state) {
                          if (state == Qt::ApplicationActive) {
                              controller.applicationWillBecomeActive();
                          }
                      });
+    const auto terminate = [&controller] { controller.applicationWillTerminate(); };
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &window, terminate);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, terminate,
+                     Qt::DirectConnection);
     window.show();
     return QApplication::exec();
 }

@@ -16,10 +16,20 @@ class HeadlessPlatform final : public Platform {
     std::uint32_t arc4random() override { return static_cast<std::uint32_t>(random()); }
     [[nodiscard]] NSNumberFormat numberFormat() const override { return format; }
 
+    [[nodiscard]] std::optional<std::u16string> pasteboardString() const override {
+        return pasteboard;
+    }
+    void setPasteboardString(const std::u16string& text) override { pasteboard = text; }
+    [[nodiscard]] std::string NSHomeDirectory() const override { return home; }
+    void terminate() override { isTerminated = true; }
+
     int beeps = 0;
     std::vector<std::u16string> log;
     std::mt19937 random;  // always the same numbers, so that a test can be run again
     NSNumberFormat format;
+    std::optional<std::u16string> pasteboard;
+    std::string home;  // none, unless a test gives one
+    bool isTerminated = false;
 };
 
 }  // namespace talvex

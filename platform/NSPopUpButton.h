@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <utility>
 
 #include "platform/NSButton.h"
@@ -13,24 +12,12 @@ class NSPopUpButton : public NSButton {
   public:
     using NSButton::NSButton;
 
+    [[nodiscard]] NSMenu& menu() { return menu_; }
     [[nodiscard]] const NSMenu& menu() const { return menu_; }
     void setMenu(NSMenu menu) { menu_ = std::move(menu); }
 
-    // Asked for each item before the menu shows: it sets the item's state, title and `enabled`.
-    void setValidation(std::function<void(NSMenuItem&)> validate) {
-        validate_ = std::move(validate);
-    }
-    void validateMenu() {
-        for (NSMenuItem& item : menu_.items) {
-            if (validate_) {
-                validate_(item);
-            }
-        }
-    }
-
   private:
     NSMenu menu_;
-    std::function<void(NSMenuItem&)> validate_;
 };
 
 }  // namespace talvex

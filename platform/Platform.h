@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 // The few things that only a real desktop can do, each behind a small port.
@@ -45,8 +46,42 @@ class LocalePort {
     ~LocalePort() = default;
 };
 
+class PasteboardPort {
+  public:
+    // The text on the general pasteboard, if there is text.
+    [[nodiscard]] virtual std::optional<std::u16string> pasteboardString() const = 0;
+    virtual void setPasteboardString(const std::u16string& text) = 0;
+
+  protected:
+    ~PasteboardPort() = default;
+};
+
+class FilePort {
+  public:
+    // The user's home folder; empty if there is none, and nothing is kept then.
+    [[nodiscard]] virtual std::string NSHomeDirectory() const = 0;
+
+  protected:
+    ~FilePort() = default;
+};
+
+class ApplicationPort {
+  public:
+    // Ends the program; the controller still hears that it will.
+    virtual void terminate() = 0;
+
+  protected:
+    ~ApplicationPort() = default;
+};
+
 // All ports of one desktop.
-class Platform : public AlertPort, public LogPort, public RandomPort, public LocalePort {
+class Platform : public AlertPort,
+                 public LogPort,
+                 public RandomPort,
+                 public LocalePort,
+                 public PasteboardPort,
+                 public FilePort,
+                 public ApplicationPort {
   public:
     virtual ~Platform() = default;
 };

@@ -1,13 +1,17 @@
 #include "qt/CalculatorWindow.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
+#include <algorithm>
+#include <cmath>
 
 #include "qt/DisplayWidget.h"
 #include "qt/KeyButton.h"
 #include "qt/TitleBar.h"
 #include "qt/frame_extents.h"
+#include "qt/menus.h"
 #include "qt/palette.h"
 #include "ui/window_layout.h"
 
@@ -44,7 +48,8 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       controller_(controller),
       body_(new QWidget(this)),
-      titleBar_(new TitleBar(controller.views().window, *controller.views().xyztButton, body_)),
+      titleBar_(new TitleBar(controller.views().window, *controller.views().xyztButton,
+                             controller.views().menu, body_)),
       content_(new QWidget(body_)) {
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
@@ -52,9 +57,14 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
     setFixedSize(kLargestBody.grownBy(kDrawerRoom));
     new DisplayWidget(controller_, content_);
     new KeyPadWidget(controller_.views().keyPad, content_);
+    addShortcuts(*this, controller_.views().menu);
+    if (controller_.hasSavedFrame() && isOnScreen(QRect(placeOfRecord(), size()))) {
+        move(placeOfRecord());
+    } else {
+        centerOnScreen();
+    }
     controller_.views().window.setObserver(this);
     windowDidChange(controller_.views().window);
-    centerOnScreen();
 }
 
 CalculatorWindow::~CalculatorWindow() { controller_.views().window.setObserver(nullptr); }
@@ -73,6 +83,9 @@ void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
     content_->setGeometry(0, kBar, body.width(), body.height() - kBar);
     setMask(body);
     if (isVisible()) {
+        if (placeOfRecord() != pos()) {
+            move(placeOfRecord());
+        }
         publishFrameExtents(*this, marginsAround(body, size()));
     }
     update();
@@ -81,6 +94,45 @@ void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
 void CalculatorWindow::centerOnScreen() {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     move(screen.center() - bodyRect().center());
+}
+
+// The record's origin is the lower left corner of the first screen. A saved place may be any
+// number.
+QPoint CalculatorWindow::placeOfRecord() const {
+    static constexpr double kFarthest = 100'000.0;
+    const NSRect& frame = controller_.views().window.frame();
+    const auto bounded = [](double value) {
+        return static_cast<int>(std::clamp(std::isnan(value) ? 0.0 : value, -kFarthest, kFarthest));
+    };
+    const int bottom = QGuiApplication::primaryScreen()->geometry().bottom() + 1;
+    return QPoint(bounded(frame.x), bottom - bounded(frame.y + frame.height)) -
+           bodyRect().topLeft();
+}
+
+// Whether enough of the title bar is in sight to take hold of it.
+bool CalculatorWindow::isOnScreen(const QRect& canvas) const {
+    constexpr int kInSight = 40;
+    const QRect bar(canvas.topLeft() + bodyRect().topLeft(),
+                    QSize(bodyRect().width(), static_cast<int>(NSWindow::kTitleBarHeight)));
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        const QRect seen = screen->availableGeometry().intersected(bar);
+        return seen.width() >= kInSight && seen.height() == bar.height();
+    });
+}
+
+void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) {
+    const QPoint corner = pos() + bodyRect().topLeft();
+    NSRect frame = controller_.views().window.frame();
+    frame.x = corner.x();
+    frame.y = QGuiApplication::primaryScreen()->geometry().bottom() + 1 - corner.y() - frame.height;
+    if (!(frame == controller_.views().window.frame())) {
+        controller_.views().window.setFrame(frame);
+    }
+}
+
+void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
+    popUpMenu(controller_.views().menu, event->globalPos(), *this);
 }
 
 void CalculatorWindow::paintEvent(QPaintEvent* /*event*/) {

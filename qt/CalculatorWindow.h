@@ -21,6 +21,8 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -30,6 +32,9 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
   private:
     [[nodiscard]] QRect bodyRect() const;
     void centerOnScreen();
+    // Where the canvas has to stand for the body to be where the record says.
+    [[nodiscard]] QPoint placeOfRecord() const;
+    [[nodiscard]] bool isOnScreen(const QRect& canvas) const;
     void sendFlags();
 
     DYXWindowController& controller_;

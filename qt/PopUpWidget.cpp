@@ -1,9 +1,9 @@
 #include <QCursor>
-#include <QMenu>
 #include <QPainter>
 
 #include "qt/DisplayWidget.h"
 #include "qt/conversions.h"
+#include "qt/menus.h"
 
 namespace talvex {
 namespace {
@@ -23,22 +23,12 @@ PopUpWidget::PopUpWidget(NSPopUpButton& record, QWidget* parent)
 }
 
 void PopUpWidget::showMenu() {
-    record_.validateMenu();
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const NSMenuItem& item : record_.menu().items) {
-        QAction* action = menu->addAction(toQString(item.title));
-        action->setCheckable(item.state != 0);
-        action->setChecked(item.state != 0);
-        action->setEnabled(item.enabled);
-        connect(action, &QAction::triggered, this, [item] { item.action(item); });
-    }
-    connect(menu, &QMenu::aboutToHide, this, [this] {
+    const QMenu& menu = popUpMenu(record_.menu(), mapToGlobal(rect().bottomLeft()), *this);
+    connect(&menu, &QMenu::aboutToHide, this, [this] {
         setDown(false);
         // The menu had the mouse: nothing has told that it left.
         setAttribute(Qt::WA_UnderMouse, rect().contains(mapFromGlobal(QCursor::pos())));
     });
-    menu->popup(mapToGlobal(rect().bottomLeft()));
 }
 
 void PopUpWidget::paintEvent(QPaintEvent* /*event*/) {

@@ -1,8 +1,12 @@
 #include "qt/QtPlatform.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFile>
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QMimeData>
 #include <QRandomGenerator>
 
 #include "qt/conversions.h"
@@ -40,5 +44,23 @@ NSNumberFormat QtPlatform::numberFormat() const {
     return {.decimalSeparator = locale.decimalPoint().toStdU16String(),
             .groupingSize = groupingSizeOf(locale)};
 }
+
+std::optional<std::u16string> QtPlatform::pasteboardString() const {
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    if (data == nullptr || !data->hasText()) {
+        return std::nullopt;
+    }
+    return data->text().toStdU16String();
+}
+
+void QtPlatform::setPasteboardString(const std::u16string& text) {
+    QGuiApplication::clipboard()->setText(toQString(text));
+}
+
+std::string QtPlatform::NSHomeDirectory() const {
+    return QFile::encodeName(QDir::homePath()).toStdString();
+}
+
+void QtPlatform::terminate() { QCoreApplication::quit(); }
 
 }  // namespace talvex

@@ -12,6 +12,11 @@ class QtPlatform final : public Platform {
     void NSLog(const std::u16string& line) override;
     std::uint32_t arc4random() override;
     [[nodiscard]] NSNumberFormat numberFormat() const override;
+    // The clipboard; the primary selection is left alone.
+    [[nodiscard]] std::optional<std::u16string> pasteboardString() const override;
+    void setPasteboardString(const std::u16string& text) override;
+    [[nodiscard]] std::string NSHomeDirectory() const override;
+    void terminate() override;
 };
 
 }  // namespace talvex

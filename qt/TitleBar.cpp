@@ -5,6 +5,7 @@
 #include <QWindow>
 
 #include "qt/images.h"
+#include "qt/menus.h"
 #include "qt/palette.h"
 
 namespace talvex {
@@ -56,21 +57,35 @@ void TitleBarButton::paintEvent(QPaintEvent* /*event*/) {
 void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
     painter.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap));
     const QRectF box = QRectF(rect()).adjusted(4.5, 4.5, -4.5, -4.5);
-    if (*sign_ == Sign::close) {
-        painter.drawLine(box.topLeft(), box.bottomRight());
-        painter.drawLine(box.topRight(), box.bottomLeft());
-    } else {
-        painter.drawLine(QPointF(box.left(), box.bottom()), box.bottomRight());
+    switch (*sign_) {
+        case Sign::close:
+            painter.drawLine(box.topLeft(), box.bottomRight());
+            painter.drawLine(box.topRight(), box.bottomLeft());
+            break;
+        case Sign::minimise:
+            painter.drawLine(QPointF(box.left(), box.bottom()), box.bottomRight());
+            break;
+        case Sign::menu:
+            for (const double height : {box.top(), box.center().y(), box.bottom()}) {
+                painter.drawLine(QPointF(box.left(), height), QPointF(box.right(), height));
+            }
+            break;
     }
 }
 
-TitleBar::TitleBar(const NSWindow& window, NSButton& xyztButton, QWidget* parent)
+TitleBar::TitleBar(const NSWindow& window, NSButton& xyztButton, NSMenu& menu, QWidget* parent)
     : QWidget(parent),
       window_(window),
       close_(new TitleBarButton(TitleBarButton::Sign::close, QStringLiteral("close"), this)),
       minimise_(
           new TitleBarButton(TitleBarButton::Sign::minimise, QStringLiteral("minimise"), this)),
+      menuButton_(new TitleBarButton(TitleBarButton::Sign::menu, QStringLiteral("menu"), this)),
       xyzt_(new TitleBarButton(xyztButton, this)) {
+    connect(menuButton_, &QAbstractButton::pressed, this, [this, &menu] {
+        const QPoint place = menuButton_->mapToGlobal(menuButton_->rect().bottomLeft());
+        const QMenu& shown = popUpMenu(menu, place, *this);
+        connect(&shown, &QMenu::aboutToHide, menuButton_, [this] { menuButton_->setDown(false); });
+    });
     connect(close_, &QAbstractButton::clicked, this, [this] { this->window()->close(); });
     connect(minimise_, &QAbstractButton::clicked, this,
             [this] { this->window()->showMinimized(); });
@@ -79,6 +94,7 @@ TitleBar::TitleBar(const NSWindow& window, NSButton& xyztButton, QWidget* parent
 void TitleBar::resizeEvent(QResizeEvent* /*event*/) {
     close_->setGeometry(kEdge, kButtonTop, kButtonSide, kButtonSide);
     minimise_->setGeometry(kEdge + kStep, kButtonTop, kButtonSide, kButtonSide);
+    menuButton_->setGeometry(kEdge + 2 * kStep, kButtonTop, kButtonSide, kButtonSide);
     xyzt_->setGeometry(width() - kXyztFromRight, (height() - kIconSide) / 2, kIconSide, kIconSide);
 }
 
@@ -91,6 +107,10 @@ void TitleBar::paintEvent(QPaintEvent* /*event*/) {
 
 void TitleBar::mousePressEvent(QMouseEvent* event) {
     window()->activateWindow();
+    if (event->button() == Qt::RightButton) {
+        event->ignore();
+        return;
+    }
     if (event->button() == Qt::LeftButton && !window()->windowHandle()->startSystemMove()) {
         dragStart_ = event->globalPosition().toPoint() - window()->pos();
     }

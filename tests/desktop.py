@@ -4,6 +4,7 @@ import contextlib
 import ctypes
 import os
 import subprocess
+import tempfile
 import time
 
 BELL_NOTIFY = 8
@@ -76,10 +77,12 @@ def has_window_manager():
 
 @contextlib.contextmanager
 def desktop(size="1280x1024x24"):
-    """An X server with a window manager; DISPLAY leads to it."""
+    """An X server with a window manager; DISPLAY leads to it. HOME is an empty folder."""
     reader, writer = os.pipe()
     server = ["Xvfb", "-displayfd", str(writer), "-screen", "0", size, "-nolisten", "tcp", "-noreset"]
-    with running(server, pass_fds=[writer], stderr=subprocess.DEVNULL):
+    with tempfile.TemporaryDirectory() as home, \
+            running(server, pass_fds=[writer], stderr=subprocess.DEVNULL):
+        os.environ["HOME"] = home
         os.close(writer)
         with os.fdopen(reader) as numbers:
             os.environ["DISPLAY"] = ":" + numbers.readline().strip()

@@ -27,17 +27,27 @@ inline const Text kThin = u"\u2009";
 inline const Text kDot = u"\u2219";
 inline const Text kAllOnes = u"1111 1111 1111 1111 \u2219 1111 1111 1111 1111 ";
 
-inline Shown fraction(Text mantissa, Text status) { return {mantissa, u"", u"", u"", status}; }
-inline Shown exact(Text mantissa) { return fraction(mantissa, u"exact"); }
-inline Shown approx(Text mantissa) { return fraction(mantissa, u"approx"); }
+inline Shown fraction(const Text& mantissa, const Text& status) {
+    return {mantissa, u"", u"", u"", status};
+}
+inline Shown exact(const Text& mantissa) { return fraction(mantissa, u"exact"); }
+inline Shown approx(const Text& mantissa) { return fraction(mantissa, u"approx"); }
 
-inline Shown based(Text name, Text mantissa, Text status = {}) {
+inline Shown based(const Text& name, const Text& mantissa, const Text& status = {}) {
     return {mantissa, name, u"", u"", status};
 }
-inline Shown hex(Text mantissa, Text status = {}) { return based(u"hex", mantissa, status); }
-inline Shown oct(Text mantissa, Text status = {}) { return based(u"oct", mantissa, status); }
-inline Shown dec(Text mantissa, Text status = {}) { return based(u"dec", mantissa, status); }
-inline Shown bin(Text mantissa, Text status = {}) { return based(u"bin", mantissa, status); }
+inline Shown hex(const Text& mantissa, const Text& status = {}) {
+    return based(u"hex", mantissa, status);
+}
+inline Shown oct(const Text& mantissa, const Text& status = {}) {
+    return based(u"oct", mantissa, status);
+}
+inline Shown dec(const Text& mantissa, const Text& status = {}) {
+    return based(u"dec", mantissa, status);
+}
+inline Shown bin(const Text& mantissa, const Text& status = {}) {
+    return based(u"bin", mantissa, status);
+}
 
 inline const std::vector<FormatRow> kFIXRows{
     {1234567.891, 4, {u"1,234,567.891\u20090"}, u",", kThin},

@@ -14,6 +14,7 @@ struct DYXSettings {
     std::int32_t digitGroupingSeparatorMode = 1;  // 0 none, 1 by display mode, 2 thin, 3 blank
     std::int32_t digitGroupingDigitsMode = 0;     // 0 the locale's, 1 and 2 two, 3, 4 and up four
     bool includeDigitGroupingWhenCopying = false;
+    bool statusLinesEnabled = true;
 };
 
 }  // namespace talvex

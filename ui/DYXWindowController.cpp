@@ -5,28 +5,25 @@
 #include "display/display_modes.h"
 #include "keyboard/modifier_keys.h"
 #include "platform/NSEvent.h"
+#include "ui/main_menu.h"
 
 namespace talvex {
-namespace {
-
-constexpr std::int32_t kAngleModes = 5;
-// Stepping leaves out IRR, which only a menu selects.
-constexpr std::int32_t kSteppedModes = 12;
-constexpr std::array<std::u16string_view, kAngleModes> kAngleTitles{u"RAD", u"DEG", u"GRD", u"HRS",
-                                                                    u"REV"};
-
-}  // namespace
-
 DYXWindowController::DYXWindowController(Platform& platform)
     : DYXWindowController(platform, std::make_unique<WindowViews>(platform)) {}
 
 DYXWindowController::DYXWindowController(Platform& platform, std::unique_ptr<WindowViews> views)
-    : DYXCalculator(platform, views->xFields), views_(std::move(views)) {
+    : DYXCalculator(platform, views->xFields),
+      views_(std::move(views)),
+      stateFile_(platform.NSHomeDirectory()) {
     cDisplay().setFieldsHidden(true);
     connectControls();
-    setUpPopUps();
+    views_->menu = mainMenu(*this);
+    views_->inputModePopUp->setMenu(inputModeMenu(*this));
+    views_->outputModePopUp->setMenu(outputModeMenu(*this));
+    views_->angleModePopUp->setMenu(angleModeMenu(*this));
     setDigitGroupingDigitsMode(settings_.digitGroupingDigitsMode);
     updateFonts();
+    loadData();
     syncDisplays();
     updateLabels();
     fixDecimalSeparator();
@@ -42,39 +39,6 @@ void DYXWindowController::connectControls() {
     views_->keyPad.lockButton().setAction(
         [this](NSButton& button) { takeLockOutputAndInputFrom(button); });
     views_->xyztButton->setAction([this](NSButton&) { takeShowYZTRegistersFrom(); });
-}
-
-void DYXWindowController::setUpPopUps() {
-    NSMenu inputModes;
-    NSMenu outputModes;
-    for (std::int32_t number = 0; number < mode::count; ++number) {
-        inputModes.items.push_back(
-            {.title = displayModeName(number), .tag = number, .action = [this](const auto& item) {
-                 takeInputModeFrom(item);
-             }});
-        outputModes.items.push_back(
-            {.title = displayModeName(number), .tag = number, .action = [this](const auto& item) {
-                 takeOutputModeFrom(item);
-             }});
-    }
-    NSMenu angleModes;
-    for (std::int32_t number = 0; number < kAngleModes; ++number) {
-        angleModes.items.push_back(
-            {.title = std::u16string(kAngleTitles.at(static_cast<std::size_t>(number))),
-             .tag = number,
-             .action = [this](const auto& item) { takeAngleModeFrom(item); }});
-    }
-    views_->inputModePopUp->setMenu(std::move(inputModes));
-    views_->inputModePopUp->setValidation(
-        [this](NSMenuItem& item) { item.state = item.tag == xDisplay().inputMode() ? 1 : 0; });
-    views_->outputModePopUp->setMenu(std::move(outputModes));
-    views_->outputModePopUp->setValidation([this](NSMenuItem& item) {
-        item.state = item.tag == xDisplay().outputMode() ? 1 : 0;
-        item.enabled = xDisplay().unlockInputAndOutputModes();
-    });
-    views_->angleModePopUp->setMenu(std::move(angleModes));
-    views_->angleModePopUp->setValidation(
-        [this](NSMenuItem& item) { item.state = item.tag == angleMode ? 1 : 0; });
 }
 
 HotKeyState DYXWindowController::hotKeyState() const {
@@ -104,55 +68,6 @@ void DYXWindowController::flagsChanged(const NSEvent& event) {
     }
 }
 
-void DYXWindowController::takeAngleModeFrom(const NSMenuItem& item) {
-    angleMode = item.tag;
-    updateDisplay();
-}
-
-void DYXWindowController::takeAngleModeFrom(const NSButton& /*sender*/) {
-    angleMode = static_cast<std::int32_t>((std::int64_t{angleMode} + 1) % kAngleModes);
-    updateDisplay();
-}
-
-void DYXWindowController::takeOutputModeFrom(const NSMenuItem& item) {
-    xDisplay().setOutputMode(item.tag);
-    followModes();
-}
-
-void DYXWindowController::takeOutputModeFrom(const NSButton& /*sender*/) {
-    const std::int64_t next = (std::int64_t{xDisplay().outputMode()} + 1) % kSteppedModes;
-    xDisplay().setOutputMode(static_cast<std::int32_t>(next));
-    followModes();
-}
-
-void DYXWindowController::takeInputModeFrom(const NSMenuItem& item) {
-    xDisplay().setInputMode(item.tag);
-    followModes();
-}
-
-void DYXWindowController::takeInputModeFrom(const NSButton& /*sender*/) {
-    const std::int64_t next = (std::int64_t{xDisplay().inputMode()} + 1) % kSteppedModes;
-    xDisplay().setInputMode(static_cast<std::int32_t>(next));
-    followModes();
-}
-
-void DYXWindowController::followModes() {
-    updateDigitGrouping();
-    updateFonts();
-    syncDisplays();
-    updateDisplay();
-    updateButtons();
-}
-
-void DYXWindowController::takeLockOutputAndInputFrom(const NSButton& sender) {
-    xDisplay().setUnlockInputAndOutputModes(sender.state() == 1);
-    updateDigitGrouping();
-    updateFonts();
-    syncDisplays();
-    updateLock();
-    updateDisplay();
-}
-
 void DYXWindowController::takeShowYZTRegistersFrom() {
     layout_.displayViewMode = layout_.displayViewMode == 1 ? 0 : 1;
     NSButton& button = *views_->xyztButton;
@@ -170,6 +85,17 @@ void DYXWindowController::takeShowYZTRegistersFrom() {
     resizeWindow();
     display.setAutoresizingMask(displayMask);
     keyPad.setAutoresizingMask(keyPadMask);
+}
+
+// The top left corner comes to the one of the frame.
+void DYXWindowController::setUpWindow(const NSRect& frame, std::int32_t displayViewMode) {
+    if ((displayViewMode == 1) != (layout_.displayViewMode == 1)) {
+        takeShowYZTRegistersFrom();
+    }
+    NSRect placed = views_->window.frame();
+    placed.x = frame.x;
+    placed.y = frame.y + frame.height - placed.height;
+    views_->window.setFrame(placed);
 }
 
 void DYXWindowController::resizeWindow() {

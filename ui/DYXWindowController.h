@@ -8,6 +8,8 @@
 #include "keyboard/HotKey.h"
 #include "platform/NSMenu.h"
 #include "platform/NSWindow.h"
+#include "state/SavedState.h"
+#include "state/StateFile.h"
 #include "ui/DYXSettings.h"
 #include "ui/WindowViews.h"
 #include "ui/window_layout.h"
@@ -39,11 +41,31 @@ class DYXWindowController final : public DYXCalculator, public NSResponder {
     void takeInputModeFrom(const NSMenuItem& item);
     void takeInputModeFrom(const NSButton& sender);
     // The output mode is independent of the input mode while the button is on.
+    void takeLockOutputAndInputFrom(const NSMenuItem& item);
     void takeLockOutputAndInputFrom(const NSButton& sender);
+    void takeDecimalModeFrom(const NSMenuItem& item);
+    void takeDecimalModeFrom(const NSButton& sender);
+    void takeDigitsFrom(const NSMenuItem& item);
+    void takeDigitsFrom(const NSButton& sender);
+    void takeDigitGroupingSeparatorFrom(const NSMenuItem& item);
+    void takeDigitGroupingSeparatorFrom(const NSButton& sender);
+    void takeDigitGroupingDigitsFrom(const NSMenuItem& item);
+    void takeDigitGroupingDigitsFrom(const NSButton& sender);
+    void takeFontModeFrom(const NSMenuItem& item);
+    void takeFontModeFrom(const NSButton& sender);
+    // Switches: an item turns its setting over.
+    void takeIncludeDigitGroupingWhenCopyingFrom(const NSMenuItem& item);
+    void takeRegisterLabelsHiddenFrom(const NSMenuItem& item);
+    void takeXRegisterLabelAutomaticallyHiddenFrom(const NSMenuItem& item);
+    void takeWindowSizingAnimationFrom(const NSMenuItem& item);
+    void takeStatusLinesEnabledFrom(const NSMenuItem& item);
+    void takeCarpentryFractionsReducedFrom(const NSMenuItem& item);
+    void takeDisplayIrrationalsFrom(const NSMenuItem& item);
 
     // With a new value, or none to show the present one: whether powers and logarithms have their
     // base in Y. The two keys show it.
     void takeHPStylePowerAndLogsFrom(std::optional<bool> useHPStyle);
+    void takeHPStylePowerAndLogsFrom(const NSMenuItem& item);
 
     // Shows or hides the lines Y, Z and T; the top left corner of the window stays.
     void takeShowYZTRegistersFrom();
@@ -64,6 +86,26 @@ class DYXWindowController final : public DYXCalculator, public NSResponder {
     // The program comes to the front: the system's separator may have changed.
     void applicationWillBecomeActive();
 
+    // The text of X as it is copied: a live entry as echoed, a number with the digit groups on show
+    // or, by the setting, without. In clipboard.cpp.
+    [[nodiscard]] std::u16string stringRepresentation();
+    void copy();
+    // Brings the number that the text on the pasteboard starts with to X; a live entry is dropped,
+    // a number is pushed onto the stack.
+    void paste();
+
+    // The saved state, in saved_state.cpp. What can't be read or written is passed over.
+    void saveData();
+    void loadData();
+    void saveDocument() { saveData(); }
+    void revertDocumentToSaved();
+    // Asks the desktop to end the program.
+    void terminate() { platform().terminate(); }
+    // Whether the file of the saved state told where the window stands.
+    [[nodiscard]] bool hasSavedFrame() const { return remembered_.calculatorFrame.has_value(); }
+    // The program ends: a live entry is finished as by ENTER, and the state saved.
+    void applicationWillTerminate();
+
     // Refresh of controls, in control_refresh.cpp.
     void updateModifiers() override;
     void updateButtons();
@@ -76,9 +118,13 @@ class DYXWindowController final : public DYXCalculator, public NSResponder {
 
     void updateControls() override;
     void connectControls();
-    void setUpPopUps();
     void resizeWindow();
     void followModes();
+    void followLine();
+    void setUnlocked(bool isUnlocked);
+    void applyState(const SavedState& state);
+    void setUpWindow(const NSRect& frame, std::int32_t displayViewMode);
+    [[nodiscard]] SavedState presentState() const;
     [[nodiscard]] HotKeyState hotKeyState() const;
     [[nodiscard]] std::array<DYXOutputDisplay*, 5> lines();
 
@@ -86,6 +132,8 @@ class DYXWindowController final : public DYXCalculator, public NSResponder {
     WindowLayout layout_;
     DYXSettings settings_;
     HotKeys hotKeys_;
+    StateFile stateFile_;
+    SavedState remembered_;  // of the file, what no part of the window holds
 };
 
 }  // namespace talvex

@@ -22,6 +22,7 @@ struct WindowViews {
     std::shared_ptr<NSPopUpButton> outputModePopUp;
     std::shared_ptr<NSPopUpButton> angleModePopUp;
     std::shared_ptr<NSButton> xyztButton;  // stands in the title bar
+    NSMenu menu;                           // opened by a button and by the right mouse button
     KeyPad keyPad;
 };
 

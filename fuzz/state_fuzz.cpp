@@ -1,0 +1,35 @@
+// A saved state of any bytes is read without harm, and what was understood of it is written and
+// read again as the same.
+
+#include <cstdint>
+#include <string_view>
+
+#include "fuzz_input.h"
+#include "state/SavedState.h"
+#include "state/ZUStringExtensions.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace talvex;
+    const std::string bytes(data, data + size);
+    ZUStringExtensions::leadingNumber(bytes);
+    // Random bytes are seldom a property list: a whole one with some bytes of the input in places
+    // that the input tells.
+    FuzzInput input({data, size});
+    std::string damaged = writePropertyList(propertiesOf({}), input.take<std::uint8_t>() % 2 == 0
+                                                                  ? PropertyListFlavour::xml
+                                                                  : PropertyListFlavour::binary);
+    for (int count = input.take<std::uint8_t>() % 8; count > 0; --count) {
+        damaged[input.take<std::uint16_t>() % damaged.size()] = input.take<char>();
+    }
+    for (const std::string_view candidate : {std::string_view(bytes), std::string_view(damaged)}) {
+        if (const auto dictionary = readPropertyList(candidate)) {
+            const PropertyDictionary understood = propertiesOf(savedStateFrom(*dictionary));
+            require(understood.size() == 61);
+            for (const auto flavour : {PropertyListFlavour::xml, PropertyListFlavour::binary}) {
+                const auto again = readPropertyList(writePropertyList(understood, flavour));
+                require(again.has_value() && *again == understood);
+            }
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,202 @@
+// X on the pasteboard and back, and the menu that leads there.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <set>
+#include <string>
+
+#include "numeric/DYXnan.h"
+#include "platform/HeadlessPlatform.h"
+#include "platform/NSEvent.h"
+#include "state/ZUStringExtensions.h"
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+namespace {
+
+using Text = std::u16string;
+
+NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
+
+class Clipboard : public testing::Test {
+  protected:
+    void type(std::u16string_view keys) {
+        for (const char16_t key : keys) {
+            controller.keyDown({.type = NSKeyDown, .charactersIgnoringModifiers = {key}});
+        }
+    }
+    Text copied(double x) {
+        controller.setInputState(InputState::lifting);
+        controller.stack().x() = x;
+        controller.updateDisplay();
+        controller.copy();
+        return platform.pasteboard.value_or(u"nothing");
+    }
+    double pasted(const Text& text) {
+        platform.pasteboard = text;
+        controller.paste();
+        return controller.stack().x();
+    }
+
+    HeadlessPlatform platform;
+    DYXWindowController controller{platform};
+};
+
+TEST_F(Clipboard, CopiesWhatTheLineShowsInEveryMode) {
+    const struct {
+        int mode;
+        double number;
+        Text plain, grouped;
+    } rows[]{
+        {0, -1234567.5, u"-1234567.5000", u"-1,234,567.500\u20090"},
+        {1, -1.5e-12, u"-1.5000e-12", u"-1.500\u20090e-12"},
+        {2, 12345678.0, u"12.346e06", u"12.346e06"},
+        {3, 1234.5, u"1234.5000", u"1,234.500\u20090"},
+        {4, 1234.5, u"1234  1/2", u"1,234  1/2"},
+        {5, -2.5, u"-2  1/2", u"-2  1/2"},
+        {6, 1.5, u"01 : 30 : 00.0000", u"01 : 30 : 00.0000"},
+        {7, 1.5, u"001\u00B0 30' 00.0000\"", u"001\u00B0 30' 00.0000\""},
+        {8, 255, u"000000FF hex", u"00\u200900\u221900\u2009FF hex"},
+        {9, -1234567, u"-1234567 dec", u"-1,234,567 dec"},
+        {10, 8, u"000000000010 oct", u"000\u2009000\u2219000\u2009010 oct"},
+        {11, 5, u"0000000000000101 bin", u"0000 0000 0000 0101  bin"},
+        {12, M_PI, u"\u03C0", u"\u03C0"},
+        {0, DYXnan('L'), u"log error", u"log error"},
+        {0, -INFINITY, u"-\u221E", u"-\u221E"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.mode);
+        controller.takeInputModeFrom(itemOf(row.mode));
+        EXPECT_EQ(copied(row.number), row.plain);
+        controller.takeIncludeDigitGroupingWhenCopyingFrom(itemOf(0));
+        EXPECT_EQ(copied(row.number), row.grouped);
+        controller.takeIncludeDigitGroupingWhenCopyingFrom(itemOf(0));
+        EXPECT_EQ(controller.inputState(), InputState::lifting);
+    }
+}
+
+TEST_F(Clipboard, BringsNumbersBackInBothLocales) {
+    for (const int decimalMode : {1, 2}) {
+        controller.takeDecimalModeFrom(itemOf(decimalMode));
+        for (const int mode : {0, 1, 2, 3}) {
+            controller.takeInputModeFrom(itemOf(mode));
+            for (const double number : {0.5, -12.75, 0.0, 99.75}) {
+                EXPECT_EQ(pasted(copied(number)), number) << mode;
+            }
+        }
+    }
+}
+
+TEST_F(Clipboard, CopiesALiveEntryAsItIsEchoed) {
+    type(u"\t");
+    controller.copy();
+    EXPECT_EQ(platform.pasteboard, u"1e00");
+    controller.setInputState(InputState::lifting);
+    type(u"1.5\t5");
+    controller.copy();
+    EXPECT_EQ(platform.pasteboard, u"1.5e 05");
+    EXPECT_EQ(controller.inputState(), InputState::entering);
+    EXPECT_EQ(pasted(*platform.pasteboard), 1.5);
+}
+
+TEST_F(Clipboard, PastesOntoTheStackByTheState) {
+    controller.stack() = {.reg = {1, 2, 3, 4}, .lastX = 9};
+    controller.setInputState(InputState::lifting);
+    EXPECT_EQ(pasted(u"5"), 5);
+    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{5, 1, 2, 3}));
+    EXPECT_EQ(controller.stack().lastX, 1);
+    EXPECT_EQ(controller.inputState(), InputState::replacing);
+    type(u"7");
+    EXPECT_EQ(pasted(u"8"), 8);
+    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{8, 1, 2, 3}));
+    EXPECT_EQ(controller.inputState(), InputState::lifting);
+    platform.pasteboard.reset();
+    controller.paste();
+    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{8, 1, 2, 3}));
+}
+
+TEST(InternationalDoubleValue, ReadsTheNumberThatATextStartsWith) {
+    const struct {
+        Text text;
+        double number;
+    } rows[]{{u"3,5", 3.5},
+             {u"3.5", 3.5},
+             {u"abc", 0},
+             {u"", 0},
+             {u" \t\n-2e3 x", -2000},
+             {u"+7", 7},
+             {u"1,234.5", 1.234},
+             {u"1.2.3", 1.2},
+             {u".5", 0.5},
+             {u"5.", 5},
+             {u".", 0},
+             {u"-", 0},
+             {u"-.e5", 0},
+             {u"1e", 1},
+             {u"1e+", 1},
+             {u"2E-2", 0.02},
+             {u"1e999", INFINITY},
+             {u"-1e-999", -0.0},
+             {u"inf", 0},
+             {u"nan", 0},
+             {u"0x10", 0},
+             {u"1\u2009234", 1},
+             {u"\u0661", 0},
+             {u"FF hex", 0},
+             {u"10 : 34", 10},
+             {Text(100'000, u'9'), INFINITY},
+             {Text(100'000, u' ') + u"5", 0}};
+    for (const auto& row : rows) {
+        const double number = ZUStringExtensions::internationalDoubleValue(row.text);
+        EXPECT_EQ(number, row.number) << testing::PrintToString(row.text.substr(0, 20));
+    }
+}
+
+TEST_F(Clipboard, TheMenuShowsAndChangesEverySetting) {
+    std::set<Text> titles;
+    std::set<Text> keys;
+    const std::function<void(NSMenu&)> visit = [&](NSMenu& menu) {
+        for (NSMenuItem& item : menu.items) {
+            titles.insert(item.title);
+            for (const Text& key : item.keyEquivalents) {
+                EXPECT_TRUE(keys.insert(key).second) << "two items with one shortcut";
+            }
+            if (!item.submenu.items.empty()) {
+                visit(item.submenu);
+            } else if (!item.isSeparator() && item.title != u"Quit") {
+                ASSERT_TRUE(item.action) << testing::PrintToString(item.title);
+                const Text title = item.title;
+                const int state = item.state;
+                if (item.enabled) {
+                    item.action(item);
+                    validateMenu(controller.views().menu);
+                }
+                const bool isChoiceOrSwitch = item.validation && title == item.title;
+                EXPECT_TRUE(!isChoiceOrSwitch || !item.enabled || item.state == 1 || state == 1)
+                    << testing::PrintToString(title);
+            }
+        }
+    };
+    validateMenu(controller.views().menu);
+    visit(controller.views().menu);
+    for (const Text& title : {Text(u"Copy"), Text(u"IRR"), Text(u"REV"), Text(u"9"),
+                              Text(u"Unlock Output from Input"), Text(u"Show YZT Registers")}) {
+        EXPECT_TRUE(titles.contains(title)) << testing::PrintToString(title);
+    }
+    EXPECT_EQ(keys, (std::set<Text>{u"Ctrl+Ins", u"Meta+C", u"Shift+Ins", u"Meta+V", u"Meta+Q"}));
+}
+
+TEST_F(Clipboard, TheLockDisablesTheOutputModes) {
+    NSMenu& outputs = controller.views().menu.items[1].submenu.items[1].submenu;
+    validateMenu(controller.views().menu);
+    EXPECT_FALSE(outputs.items[5].enabled);
+    controller.takeLockOutputAndInputFrom(itemOf(0));
+    validateMenu(controller.views().menu);
+    EXPECT_TRUE(outputs.items[5].enabled);
+    EXPECT_EQ(controller.views().menu.items[1].submenu.items[3].title, u"Lock Output to Input");
+}
+
+}  // namespace
+}  // namespace talvex

@@ -1,0 +1,326 @@
+// What a calculator brings back after its end, and what it makes of files that it never wrote.
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "numeric/DYXnan.h"
+#include "platform/HeadlessPlatform.h"
+#include "platform/NSEvent.h"
+#include "same_bits.h"
+#include "state/DYXDataExtensions.h"
+#include "state/StateFile.h"
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SavedFile : public testing::Test {
+  protected:
+    SavedFile() {
+        std::string name = (fs::temp_directory_path() / "talvex-XXXXXX").string();
+        home = ::mkdtemp(name.data());
+        platform.home = home.string();
+    }
+    ~SavedFile() override { fs::remove_all(home); }
+
+    void put(const fs::path& path, const std::string& bytes) const {
+        fs::create_directories(path.parent_path());
+        std::ofstream(path, std::ios::binary) << bytes;
+    }
+    void put(const PropertyDictionary& dictionary) const {
+        put(StateFile(home).saveDataPath(),
+            writePropertyList(dictionary, PropertyListFlavour::xml));
+    }
+    [[nodiscard]] std::string bytesOf(const fs::path& path) const {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    [[nodiscard]] fs::path file() const { return StateFile(home).saveDataPath(); }
+
+    fs::path home;
+    HeadlessPlatform platform;
+};
+
+PropertyData dataOf(double number) {
+    const auto bytes = DYXDataExtensions::dataWithDouble(number);
+    return {bytes.begin(), bytes.end()};
+}
+
+NSMenuItem itemOf(int tag, int state = 0) {
+    return {.title = {}, .tag = tag, .action = {}, .state = state};
+}
+
+TEST_F(SavedFile, BringsEverythingBackToTheBit) {
+    const std::array<double, 4> stack{DYXnan('L'), -0.0, INFINITY, 5e-324};
+    {
+        DYXWindowController calculator(platform);
+        calculator.stack() = {.reg = stack, .lastX = -INFINITY};
+        for (std::size_t index = 0; index < 21; ++index) {
+            calculator.mem().at(index) = 1.0 / (1.0 + static_cast<double>(index));
+        }
+        calculator.takeOutputModeFrom(itemOf(5));
+        calculator.takeInputModeFrom(itemOf(8));
+        calculator.takeLockOutputAndInputFrom(itemOf(0));
+        calculator.takeAngleModeFrom(itemOf(3));
+        calculator.takeDigitsFrom(itemOf(17));
+        calculator.takeDecimalModeFrom(itemOf(2));
+        calculator.takeDigitGroupingSeparatorFrom(itemOf(3));
+        calculator.takeDigitGroupingDigitsFrom(itemOf(4));
+        calculator.takeFontModeFrom(itemOf(2));
+        calculator.takeIncludeDigitGroupingWhenCopyingFrom(itemOf(0));
+        calculator.takeRegisterLabelsHiddenFrom(itemOf(0));
+        calculator.takeXRegisterLabelAutomaticallyHiddenFrom(itemOf(0));
+        calculator.takeWindowSizingAnimationFrom(itemOf(0, 1));
+        calculator.takeStatusLinesEnabledFrom(itemOf(0, 1));
+        calculator.takeCarpentryFractionsReducedFrom(itemOf(0, 1));
+        calculator.takeDisplayIrrationalsFrom(itemOf(0));
+        calculator.takeHPStylePowerAndLogsFrom(itemOf(0, 1));
+        calculator.takeShowYZTRegistersFrom();
+        calculator.applicationWillTerminate();
+    }
+    DYXWindowController calculator(platform);
+    for (std::size_t index = 0; index < 4; ++index) {
+        EXPECT_TRUE(isSame(calculator.stack().reg.at(index), stack.at(index))) << index;
+    }
+    EXPECT_EQ(calculator.stack().lastX, -INFINITY);
+    EXPECT_EQ(calculator.mem()[20], 1.0 / 21.0);
+    const DYXInputDisplay& line = calculator.xDisplay();
+    EXPECT_EQ(line.outputMode(), 5);
+    EXPECT_EQ(line.inputMode(), 8);
+    EXPECT_TRUE(line.unlockInputAndOutputModes());
+    EXPECT_EQ(calculator.angleMode, 3);
+    EXPECT_EQ(line.digits(), 7U);
+    EXPECT_EQ(line.decimalSeparator(), u',');
+    EXPECT_EQ(line.integerGroupingSeparator(), u" ");
+    EXPECT_EQ(line.groupingDigits(), 4U);
+    EXPECT_EQ(line.textFont()->name, u"Excalibur Monospace");
+    EXPECT_TRUE(calculator.settings().includeDigitGroupingWhenCopying);
+    EXPECT_TRUE(calculator.settings().registerLabelsHidden);
+    EXPECT_FALSE(calculator.settings().autoHideXLabel);
+    EXPECT_FALSE(calculator.settings().animateWindow);
+    EXPECT_FALSE(calculator.settings().statusLinesEnabled);
+    EXPECT_FALSE(line.reduceCarpentryFractions());
+    EXPECT_TRUE(line.displayIrrationals());
+    EXPECT_FALSE(calculator.useHPStylePowerAndLogs);
+    EXPECT_EQ(calculator.layout().displayViewMode, 1);
+    EXPECT_EQ(calculator.inputState(), InputState::lifting);
+    EXPECT_EQ(calculator.yDisplay().outputMode(), 5);
+}
+
+TEST_F(SavedFile, EndsALiveEntryAsEnterDoesAndASaveDoesnt) {
+    DYXWindowController calculator(platform);
+    for (const char16_t key : std::u16string_view(u"42")) {
+        calculator.keyDown({.type = NSKeyDown, .charactersIgnoringModifiers = {key}});
+    }
+    calculator.saveDocument();
+    EXPECT_EQ(StateFile(home).read()->reg[1], 0.0);
+    EXPECT_EQ(calculator.inputState(), InputState::entering);
+    calculator.applicationWillTerminate();
+    const SavedState state = *StateFile(home).read();
+    EXPECT_EQ(state.reg[0], 42.0);
+    EXPECT_EQ(state.reg[1], 42.0);
+    EXPECT_EQ(state.inputState, 2);
+}
+
+TEST_F(SavedFile, RevertsToWhatWasSaved) {
+    DYXWindowController calculator(platform);
+    calculator.revertDocumentToSaved();
+    calculator.stack().x() = 3.5;
+    calculator.saveDocument();
+    calculator.stack().x() = 4.5;
+    calculator.takeInputModeFrom(itemOf(1));
+    calculator.takeDecimalModeFrom(itemOf(2));
+    calculator.revertDocumentToSaved();
+    EXPECT_EQ(calculator.xDisplay().mantissaField()->stringValue(), u"3.500\u20090");
+}
+
+TEST_F(SavedFile, HasTwoSetsOfDefaults) {
+    StateFile stateFile(home);
+    EXPECT_FALSE(stateFile.read());
+    EXPECT_EQ(stateFile.prevVersion(), 10);
+    const SavedState none;
+    const SavedState empty = savedStateFrom({});
+    EXPECT_TRUE(empty.showStatusLine);
+    EXPECT_FALSE(none.showStatusLine);
+    EXPECT_TRUE(empty.includeDigitGroupingWhenCopying);
+    EXPECT_FALSE(none.includeDigitGroupingWhenCopying);
+    PropertyDictionary left = propertiesOf(empty);
+    PropertyDictionary right = propertiesOf(none);
+    EXPECT_EQ(left.size(), 61U);
+    for (PropertyDictionary* dictionary : {&left, &right}) {
+        dictionary->erase("showStatusLine");
+        dictionary->erase("includeDigitGroupingWhenCopying");
+    }
+    EXPECT_EQ(left, right);
+    for (const char* key : {"animateWindow", "useHPStylePowerAndLogs", "reduceCarpentryFractions",
+                            "helpPanelVisible", "autoHideXLabel", "statusLinesEnabled"}) {
+        EXPECT_EQ(left.at(key), PropertyValue(true)) << key;
+    }
+    EXPECT_EQ(left.at("digits"), PropertyValue(std::int64_t{4}));
+    EXPECT_EQ(left.at("digitGroupingSeparatorMode"), PropertyValue(std::int64_t{1}));
+}
+
+TEST_F(SavedFile, ReadsOlderFilesAndWritesTheNewest) {
+    const fs::path folder = home / "Library/Preferences";
+    const auto write = [&](const char* name, double x) {
+        put(folder / name, writePropertyList({{"reg[0]", dataOf(x)}}, PropertyListFlavour::binary));
+    };
+    StateFile stateFile(home);
+    write("com.Quondel.Talvex.data", 10);
+    EXPECT_EQ(stateFile.read()->reg[0], 10);
+    EXPECT_EQ(stateFile.prevVersion(), 10);
+    write("com.Quondel.Talvex.data.plist", 11);
+    EXPECT_EQ(stateFile.read()->reg[0], 11);
+    EXPECT_EQ(stateFile.prevVersion(), 11);
+    SavedState state;
+    state.reg[0] = 12;
+    EXPECT_TRUE(stateFile.write(state));
+    EXPECT_EQ(stateFile.read()->reg[0], 12);
+    EXPECT_EQ(stateFile.prevVersion(), 12);
+    EXPECT_TRUE(fs::exists(folder / "com.Quondel.Talvex.data"));
+}
+
+TEST_F(SavedFile, UnderstandsOlderKeysAndOtherKinds) {
+    PropertyData native(16);
+    const std::array<float, 4> frame{1, 2, 404, 229};
+    std::memcpy(native.data(), frame.data(), native.size());
+    const SavedState old = savedStateFrom({{"windowIsBig", false},
+                                           {"keyPadHidden", false},
+                                           {"memKeysWasOpen", true},
+                                           {"memoryWasOpen", false},
+                                           {"memKeysDrawerState", std::int64_t{2}},
+                                           {"memoryDrawerState", std::int64_t{1}},
+                                           {"showStatusLines", false},
+                                           {"helpFame", PropertyData(16)},
+                                           {"frame", native}});
+    EXPECT_TRUE(old.keyPadHidden);
+    EXPECT_TRUE(old.memoryWasOpen);
+    EXPECT_EQ(old.memoryDrawerState, 2);
+    EXPECT_FALSE(old.showStatusLine);
+    EXPECT_EQ(old.helpFrame, NSRect{});
+    EXPECT_EQ(old.calculatorFrame, (NSRect{1, 2, 404, 229}));
+    const SavedState odd = savedStateFrom({{"reg[0]", std::int64_t{7}},
+                                           {"reg[1]", std::string(" -2.5e1x")},
+                                           {"reg[2]", PropertyData{1, 2, 3}},
+                                           {"reg[3]", true},
+                                           {"digits", std::int64_t{4'000'000'000}},
+                                           {"angleMode", std::string("3")},
+                                           {"fontMode", 1.9},
+                                           {"showStatusLine", std::string("YES")},
+                                           {"animateWindow", PropertyData{}},
+                                           {"calculatorFrame", std::string("here")},
+                                           {"showStatusLines", false}});
+    EXPECT_EQ(odd.reg, (std::array<double, 4>{7, -25, 0, 1}));
+    EXPECT_EQ(static_cast<std::uint32_t>(odd.digits), 4'000'000'000U);
+    EXPECT_EQ(odd.angleMode, 3);
+    EXPECT_EQ(odd.fontMode, 1);
+    EXPECT_TRUE(odd.showStatusLine);
+    EXPECT_FALSE(odd.animateWindow);
+    EXPECT_EQ(odd.calculatorFrame, NSRect{});
+}
+
+TEST_F(SavedFile, KeepsAFileThatItCantRead) {
+    SavedState state;
+    for (const char* content : {"no property list", "", "bplist00 neither"}) {
+        put(file(), content);
+        EXPECT_FALSE(StateFile(home).read());
+        EXPECT_TRUE(StateFile(home).write(state));
+    }
+    EXPECT_EQ(bytesOf(file().string() + ".damaged"), "no property list");
+    EXPECT_EQ(bytesOf(file().string() + ".damaged-3"), "bplist00 neither");
+    EXPECT_TRUE(StateFile(home).write(state));
+    EXPECT_FALSE(fs::exists(file().string() + ".damaged-4"));
+    struct stat description {};
+    EXPECT_EQ(::stat(file().c_str(), &description), 0);
+    EXPECT_EQ(description.st_mode & 0777U, 0600U);
+}
+
+TEST_F(SavedFile, GivesUpQuietlyWhereItCantWrite) {
+    EXPECT_FALSE(StateFile(fs::path()).write({}));
+    put(home / "Library", "a file in the folder's place");
+    EXPECT_FALSE(StateFile(home).write({}));
+    fs::remove(home / "Library");
+    fs::create_directories(file());  // a folder in the file's place
+    EXPECT_TRUE(StateFile(home).write({}));
+    EXPECT_TRUE(fs::is_directory(file().string() + ".damaged"));
+    DYXWindowController calculator(platform);
+    calculator.applicationWillTerminate();
+}
+
+TEST_F(SavedFile, RefusesWhatIsNested) {
+    const std::string key = "<key>a</key>";
+    const std::string nested = "<plist><dict>" + key + "<dict></dict></dict></plist>";
+    EXPECT_FALSE(readPropertyList(nested));
+    EXPECT_FALSE(readPropertyList("<plist><dict>" + key + "<array/></dict></plist>"));
+    EXPECT_FALSE(readPropertyList("<plist><array/></plist>"));
+    std::string deep;
+    for (int depth = 0; depth < 8000; ++depth) {
+        deep += "<plist>";
+    }
+    EXPECT_FALSE(readPropertyList(deep));
+    EXPECT_FALSE(readPropertyList(deep + "<dict>"));
+    EXPECT_FALSE(readPropertyList(std::string(kLargestPropertyList + 1, ' ')));
+    EXPECT_TRUE(readPropertyList("<plist><dict>" + key + "<true/></dict></plist>"));
+}
+
+// Whatever is left of a file that was cut or hit by a stray bit, it is read, shown and saved again.
+TEST_F(SavedFile, SurvivesEveryTruncationAndManyFlippedBits) {
+    SavedState state;
+    state.reg = {DYXnan('L'), -0.0, INFINITY, 1.5};
+    for (const auto flavour : {PropertyListFlavour::xml, PropertyListFlavour::binary}) {
+        const std::string whole = writePropertyList(propertiesOf(state), flavour);
+        for (std::size_t length = 0; length < whole.size(); ++length) {
+            if (const auto cut = readPropertyList(whole.substr(0, length))) {
+                propertiesOf(savedStateFrom(*cut));
+            }
+            std::string flipped = whole;
+            flipped[length] = static_cast<char>(flipped[length] ^ (1 << length % 8));
+            if (const auto read = readPropertyList(flipped)) {
+                propertiesOf(savedStateFrom(*read));
+            }
+            if (length % 64 == 0) {
+                put(file(), flipped);
+                DYXWindowController calculator(platform);
+                calculator.applicationWillTerminate();
+                ASSERT_TRUE(StateFile(home).read());
+            }
+        }
+    }
+}
+
+TEST_F(SavedFile, TakesAnyNumberAsItStands) {
+    for (const std::int64_t number :
+         {-1LL, 13LL, 2'147'483'647LL, -2'147'483'648LL, 4'000'000'000LL}) {
+        PropertyDictionary dictionary = propertiesOf({});
+        for (auto& [key, value] : dictionary) {
+            if (std::holds_alternative<std::int64_t>(value)) {
+                value = number;
+            } else if (std::holds_alternative<PropertyData>(value)) {
+                value = PropertyData(16, static_cast<std::uint8_t>(number));
+            }
+        }
+        put(dictionary);
+        DYXWindowController calculator(platform);
+        for (int mode = 0; mode < 13; ++mode) {
+            calculator.takeInputModeFrom(itemOf(mode));
+            calculator.keyDown({.type = NSKeyDown, .charactersIgnoringModifiers = {u'1'}});
+            calculator.copy();
+            calculator.paste();
+        }
+        calculator.applicationWillTerminate();
+        EXPECT_EQ(StateFile(home).read()->angleMode, static_cast<std::int32_t>(number));
+    }
+}
+
+}  // namespace
+}  // namespace talvex

@@ -1,0 +1,54 @@
+// X as text on the pasteboard, and back.
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "state/ZUStringExtensions.h"
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+namespace {
+
+constexpr std::array<std::u16string_view, 4> kBaseNames{u"bin", u"oct", u"dec", u"hex"};
+
+std::u16string textOf(const TextSlot& slot) { return slot ? slot->stringValue() : u""; }
+
+}  // namespace
+
+std::u16string DYXWindowController::stringRepresentation() {
+    const bool isAsShown =
+        inputState() == InputState::entering || settings_.includeDigitGroupingWhenCopying;
+    if (!isAsShown) {
+        cDisplay().setOutputTo(stack().x());
+    }
+    const DYXOutputDisplay& line = isAsShown ? xDisplay() : cDisplay();
+    const std::u16string mantissa = textOf(line.mantissaSignField()) + textOf(line.mantissaField());
+    const std::u16string exponent = textOf(line.exponentField());
+    if (exponent.empty()) {
+        return mantissa;
+    }
+    const bool isBaseName =
+        std::find(kBaseNames.begin(), kBaseNames.end(), exponent) != kBaseNames.end();
+    return mantissa + (isBaseName ? u' ' : u'e') + textOf(line.exponentSignField()) + exponent;
+}
+
+void DYXWindowController::copy() { platform().setPasteboardString(stringRepresentation()); }
+
+void DYXWindowController::paste() {
+    const std::optional<std::u16string> text = platform().pasteboardString();
+    if (!text) {
+        return;
+    }
+    const double number = ZUStringExtensions::internationalDoubleValue(*text);
+    if (inputState() == InputState::entering) {
+        setInputState(InputState::lifting);
+    } else {
+        stack().pushOntoStack();
+        setInputState(InputState::replacing);
+    }
+    stack().x() = number;
+    updateDisplay();
+}
+
+}  // namespace talvex

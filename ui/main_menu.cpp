@@ -1,0 +1,242 @@
+#include "ui/main_menu.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "display/display_modes.h"
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+namespace {
+
+using Controller = DYXWindowController;
+using Choose = void (Controller::*)(const NSMenuItem&);
+using Question = bool (*)(const Controller&);
+using Value = std::int64_t (*)(const Controller&);
+
+struct Choice {
+    std::u16string_view title;
+    int tag;
+};
+
+constexpr std::array<Choice, 5> kAngles{
+    {{u"RAD", 0}, {u"DEG", 1}, {u"GRD", 2}, {u"HRS", 3}, {u"REV", 4}}};
+constexpr std::array<Choice, 3> kDecimals{{{u"As the System", 0}, {u"Point", 1}, {u"Comma", 2}}};
+constexpr std::array<Choice, 4> kSeparators{
+    {{u"None", 0}, {u"By Mode", 1}, {u"Thin Space", 2}, {u"Blank", 3}}};
+constexpr std::array<Choice, 4> kGroups{
+    {{u"As the System", 0}, {u"Twos", 2}, {u"Threes", 3}, {u"Fours", 4}}};
+constexpr std::array<Choice, 3> kFonts{{{u"By Mode", 0}, {u"Proportional", 1}, {u"Monospaced", 2}}};
+
+NSMenuItem separator() { return {}; }
+
+NSMenuItem submenu(std::u16string_view title, NSMenu menu) {
+    NSMenuItem item;
+    item.title = title;
+    item.submenu = std::move(menu);
+    return item;
+}
+
+NSMenuItem choiceItem(Controller& controller, const std::u16string& title, int tag, Choose choose,
+                      Value value) {
+    NSMenuItem item;
+    item.title = title;
+    item.tag = tag;
+    item.action = [&controller, choose](const NSMenuItem& chosen) { (controller.*choose)(chosen); };
+    item.validation = [&controller, value](NSMenuItem& shown) {
+        shown.state = value(controller) == shown.tag ? 1 : 0;
+    };
+    return item;
+}
+
+// One of several values, the present one with a check mark.
+template <class Choices>
+NSMenu choiceMenu(Controller& controller, const Choices& choices, Choose choose, Value value) {
+    NSMenu menu;
+    for (const Choice& choice : choices) {
+        menu.items.push_back(
+            choiceItem(controller, std::u16string(choice.title), choice.tag, choose, value));
+    }
+    return menu;
+}
+
+// A setting that is on or off.
+NSMenuItem switchItem(Controller& controller, std::u16string_view title, Choose choose,
+                      Question isOn) {
+    NSMenuItem item;
+    item.title = title;
+    item.action = [&controller, choose](const NSMenuItem& chosen) { (controller.*choose)(chosen); };
+    item.validation = [&controller, isOn](NSMenuItem& shown) {
+        shown.state = isOn(controller) ? 1 : 0;
+    };
+    return item;
+}
+
+NSMenuItem commandItem(Controller& controller, std::u16string_view title, void (*run)(Controller&),
+                       std::vector<std::u16string> keys = {}) {
+    NSMenuItem item;
+    item.title = title;
+    item.action = [&controller, run](const NSMenuItem&) { run(controller); };
+    item.keyEquivalents = std::move(keys);
+    return item;
+}
+
+// An item whose title tells what it would do.
+NSMenuItem alternatingItem(NSMenuItem item, const Controller& controller, Question isOn,
+                           std::u16string_view whenOn, std::u16string_view whenOff) {
+    item.title = isOn(controller) ? whenOn : whenOff;
+    item.validation = [&controller, isOn, whenOn, whenOff](NSMenuItem& shown) {
+        shown.title = isOn(controller) ? whenOn : whenOff;
+    };
+    return item;
+}
+
+NSMenu modeMenu(Controller& controller, Choose choose, Value value) {
+    NSMenu menu;
+    for (std::int32_t number = 0; number < mode::count; ++number) {
+        menu.items.push_back(
+            choiceItem(controller, displayModeName(number), number, choose, value));
+    }
+    return menu;
+}
+
+bool isUnlocked(const Controller& controller) {
+    return controller.xDisplay().unlockInputAndOutputModes();
+}
+
+NSMenu modesMenu(Controller& controller) {
+    NSMenu menu;
+    menu.items = {
+        submenu(u"Input", inputModeMenu(controller)),
+        submenu(u"Output", outputModeMenu(controller)), separator(),
+        alternatingItem(
+            switchItem(controller, u"", &Controller::takeLockOutputAndInputFrom, isUnlocked),
+            controller, isUnlocked, u"Lock Output to Input", u"Unlock Output from Input")};
+    return menu;
+}
+
+NSMenu digitsMenu(Controller& controller) {
+    NSMenu menu;
+    for (int digits = 0; digits < 10; ++digits) {
+        menu.items.push_back(choiceItem(
+            controller, {static_cast<char16_t>(u'0' + digits)}, digits, &Controller::takeDigitsFrom,
+            [](const Controller& line) -> std::int64_t { return line.xDisplay().digits(); }));
+    }
+    return menu;
+}
+
+NSMenu formatMenu(Controller& controller) {
+    NSMenu menu;
+    menu.items = {
+        submenu(u"Decimal Separator",
+                choiceMenu(controller, kDecimals, &Controller::takeDecimalModeFrom,
+                           [](const Controller& now) -> std::int64_t {
+                               return now.settings().decimalMode;
+                           })),
+        submenu(u"Separator of Groups",
+                choiceMenu(controller, kSeparators, &Controller::takeDigitGroupingSeparatorFrom,
+                           [](const Controller& now) -> std::int64_t {
+                               return now.settings().digitGroupingSeparatorMode;
+                           })),
+        submenu(u"Digits in a Group",
+                choiceMenu(controller, kGroups, &Controller::takeDigitGroupingDigitsFrom,
+                           [](const Controller& now) -> std::int64_t {
+                               return now.settings().digitGroupingDigitsMode;
+                           })),
+        submenu(u"Font", choiceMenu(controller, kFonts, &Controller::takeFontModeFrom,
+                                    [](const Controller& now) -> std::int64_t {
+                                        return now.settings().fontMode;
+                                    })),
+        separator(),
+        switchItem(controller, u"Reduce Carpentry Fractions",
+                   &Controller::takeCarpentryFractionsReducedFrom,
+                   [](const Controller& now) { return now.xDisplay().reduceCarpentryFractions(); }),
+        switchItem(controller, u"Show Multiples of \u03C0, \u221A2, \u221A3 and e",
+                   &Controller::takeDisplayIrrationalsFrom,
+                   [](const Controller& now) { return now.xDisplay().displayIrrationals(); }),
+        switchItem(controller, u"Base of Powers and Logarithms in Y",
+                   &Controller::takeHPStylePowerAndLogsFrom,
+                   [](const Controller& now) { return now.useHPStylePowerAndLogs; })};
+    return menu;
+}
+
+NSMenu viewMenu(Controller& controller) {
+    const auto showsFourLines = [](const Controller& now) {
+        return now.layout().displayViewMode != 0;
+    };
+    NSMenu menu;
+    menu.items = {
+        alternatingItem(
+            commandItem(controller, u"", [](Controller& now) { now.takeShowYZTRegistersFrom(); }),
+            controller, showsFourLines, u"Hide YZT Registers", u"Show YZT Registers"),
+        separator(),
+        switchItem(controller, u"Hide Register Labels", &Controller::takeRegisterLabelsHiddenFrom,
+                   [](const Controller& now) { return now.settings().registerLabelsHidden; }),
+        switchItem(controller, u"Hide the X Label when X Stands Alone",
+                   &Controller::takeXRegisterLabelAutomaticallyHiddenFrom,
+                   [](const Controller& now) { return now.settings().autoHideXLabel; }),
+        switchItem(controller, u"Animate Window Sizing", &Controller::takeWindowSizingAnimationFrom,
+                   [](const Controller& now) { return now.settings().animateWindow; })};
+    return menu;
+}
+
+NSMenu editMenu(Controller& controller) {
+    NSMenu menu;
+    menu.items = {
+        commandItem(controller, u"Copy", [](Controller& now) { now.copy(); },
+                    {u"Ctrl+Ins", u"Meta+C"}),
+        commandItem(controller, u"Paste", [](Controller& now) { now.paste(); },
+                    {u"Shift+Ins", u"Meta+V"}),
+        separator(),
+        switchItem(
+            controller, u"Copy Digit Groups", &Controller::takeIncludeDigitGroupingWhenCopyingFrom,
+            [](const Controller& now) { return now.settings().includeDigitGroupingWhenCopying; })};
+    return menu;
+}
+
+}  // namespace
+
+NSMenu outputModeMenu(Controller& controller) {
+    NSMenu menu =
+        modeMenu(controller, &Controller::takeOutputModeFrom,
+                 [](const Controller& now) -> std::int64_t { return now.xDisplay().outputMode(); });
+    for (NSMenuItem& item : menu.items) {
+        item.validation = [validate = item.validation, &controller](NSMenuItem& shown) {
+            validate(shown);
+            shown.enabled = isUnlocked(controller);
+        };
+    }
+    return menu;
+}
+
+NSMenu inputModeMenu(Controller& controller) {
+    return modeMenu(
+        controller, &Controller::takeInputModeFrom,
+        [](const Controller& now) -> std::int64_t { return now.xDisplay().inputMode(); });
+}
+
+NSMenu angleModeMenu(Controller& controller) {
+    return choiceMenu(controller, kAngles, &Controller::takeAngleModeFrom,
+                      [](const Controller& now) -> std::int64_t { return now.angleMode; });
+}
+
+NSMenu mainMenu(Controller& controller) {
+    NSMenu menu;
+    menu.items = {
+        submenu(u"Edit", editMenu(controller)),
+        submenu(u"Modes", modesMenu(controller)),
+        submenu(u"Angle", angleModeMenu(controller)),
+        submenu(u"Digits", digitsMenu(controller)),
+        submenu(u"Format", formatMenu(controller)),
+        submenu(u"View", viewMenu(controller)),
+        separator(),
+        commandItem(controller, u"Save", [](Controller& now) { now.saveDocument(); }),
+        commandItem(controller, u"Revert to Saved",
+                    [](Controller& now) { now.revertDocumentToSaved(); }),
+        separator(),
+        commandItem(controller, u"Quit", [](Controller& now) { now.terminate(); }, {u"Meta+Q"})};
+    return menu;
+}
+
+}  // namespace talvex

@@ -1,0 +1,96 @@
+// What outlives the program, and how it comes back.
+
+#include <algorithm>
+
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+
+SavedState DYXWindowController::presentState() const {
+    SavedState state = remembered_;
+    state.reg = stack().reg;
+    std::copy_n(mem().begin(), state.mem.size(), state.mem.begin());
+    state.lastX = stack().lastX;
+    state.inputState = static_cast<std::int32_t>(inputState());
+    state.angleMode = angleMode;
+    state.useHPStylePowerAndLogs = useHPStylePowerAndLogs;
+
+    const DYXInputDisplay& line = xDisplay();
+    state.outputDisplayMode = line.outputMode();
+    state.inputDisplayMode = line.inputMode();
+    state.digits = static_cast<std::int32_t>(line.digits());
+    state.reduceCarpentryFractions = line.reduceCarpentryFractions();
+    state.unlockInputAndOutputModes = line.unlockInputAndOutputModes();
+    state.displayIrrationals = line.displayIrrationals();
+
+    state.animateWindow = settings_.animateWindow;
+    state.registerLabelsHidden = settings_.registerLabelsHidden;
+    state.autoHideXLabel = settings_.autoHideXLabel;
+    state.statusLinesEnabled = settings_.statusLinesEnabled;
+    state.decimalMode = settings_.decimalMode;
+    state.digitGroupingSeparatorMode = settings_.digitGroupingSeparatorMode;
+    state.digitGroupingDigitsMode = settings_.digitGroupingDigitsMode;
+    state.includeDigitGroupingWhenCopying = settings_.includeDigitGroupingWhenCopying;
+    state.fontMode = settings_.fontMode;
+    state.displayViewMode = layout_.displayViewMode;
+    state.calculatorFrame = views_->window.frame();
+    return state;
+}
+
+// Values are taken as they stand; whoever uses one bounds it.
+void DYXWindowController::applyState(const SavedState& state) {
+    stack().reg = state.reg;
+    std::copy(state.mem.begin(), state.mem.end(), mem().begin());
+    stack().lastX = state.lastX;
+
+    DYXInputDisplay& line = xDisplay();
+    line.setUnlockInputAndOutputModes(state.unlockInputAndOutputModes);
+    line.setOutputMode(state.outputDisplayMode);
+    line.setInputMode(state.inputDisplayMode);
+    angleMode = state.angleMode;
+    line.setDigits(static_cast<std::uint32_t>(state.digits));
+    settings_.animateWindow = state.animateWindow;
+    useHPStylePowerAndLogs = state.useHPStylePowerAndLogs;
+    settings_.decimalMode = state.decimalMode;
+    line.setReduceCarpentryFractions(state.reduceCarpentryFractions);
+    line.setDisplayIrrationals(state.displayIrrationals);
+    settings_.registerLabelsHidden = state.registerLabelsHidden;
+    settings_.autoHideXLabel = state.autoHideXLabel;
+    settings_.statusLinesEnabled = state.statusLinesEnabled;
+    settings_.includeDigitGroupingWhenCopying = state.includeDigitGroupingWhenCopying;
+    setFontMode(state.fontMode);
+    setDigitGroupingSeparatorMode(state.digitGroupingSeparatorMode);
+    setDigitGroupingDigitsMode(state.digitGroupingDigitsMode);
+    if (state.calculatorFrame) {
+        setUpWindow(*state.calculatorFrame, state.displayViewMode);
+    }
+}
+
+void DYXWindowController::saveData() { static_cast<void>(stateFile_.write(presentState())); }
+
+void DYXWindowController::loadData() {
+    if (const std::optional<SavedState> state = stateFile_.read()) {
+        remembered_ = *state;
+        applyState(*state);
+    }
+}
+
+void DYXWindowController::revertDocumentToSaved() {
+    loadData();
+    updateLabels();
+    fixDecimalSeparator();
+    syncDisplays();
+    updateDisplay();
+    takeHPStylePowerAndLogsFrom(std::nullopt);
+}
+
+void DYXWindowController::applicationWillTerminate() {
+    if (inputState() == InputState::entering) {
+        updateRegister();
+        stack().pushOntoStack();
+        setInputState(InputState::lifting);
+    }
+    saveData();
+}
+
+}  // namespace talvex
