@@ -1,4 +1,3 @@
-#include <QCursor>
 #include <QPainter>
 
 #include "qt/DisplayWidget.h"
@@ -22,14 +21,7 @@ PopUpWidget::PopUpWidget(NSPopUpButton& record, QWidget* parent)
     connect(this, &QAbstractButton::pressed, this, &PopUpWidget::showMenu);
 }
 
-void PopUpWidget::showMenu() {
-    const QMenu& menu = popUpMenu(record_.menu(), mapToGlobal(rect().bottomLeft()), *this);
-    connect(&menu, &QMenu::aboutToHide, this, [this] {
-        setDown(false);
-        // The menu had the mouse: nothing has told that it left.
-        setAttribute(Qt::WA_UnderMouse, rect().contains(mapFromGlobal(QCursor::pos())));
-    });
-}
+void PopUpWidget::showMenu() { pullDownMenu(record_.menu(), *this); }
 
 void PopUpWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);

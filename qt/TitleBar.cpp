@@ -81,11 +81,8 @@ TitleBar::TitleBar(const NSWindow& window, NSButton& xyztButton, NSMenu& menu, Q
           new TitleBarButton(TitleBarButton::Sign::minimise, QStringLiteral("minimise"), this)),
       menuButton_(new TitleBarButton(TitleBarButton::Sign::menu, QStringLiteral("menu"), this)),
       xyzt_(new TitleBarButton(xyztButton, this)) {
-    connect(menuButton_, &QAbstractButton::pressed, this, [this, &menu] {
-        const QPoint place = menuButton_->mapToGlobal(menuButton_->rect().bottomLeft());
-        const QMenu& shown = popUpMenu(menu, place, *this);
-        connect(&shown, &QMenu::aboutToHide, menuButton_, [this] { menuButton_->setDown(false); });
-    });
+    connect(menuButton_, &QAbstractButton::pressed, this,
+            [this, &menu] { pullDownMenu(menu, *menuButton_); });
     connect(close_, &QAbstractButton::clicked, this, [this] { this->window()->close(); });
     connect(minimise_, &QAbstractButton::clicked, this,
             [this] { this->window()->showMinimized(); });

@@ -1,6 +1,7 @@
 #include "qt/menus.h"
 
 #include <QAction>
+#include <QCursor>
 
 #include "qt/conversions.h"
 
@@ -38,17 +39,29 @@ void fillMenu(QMenu& menu, const NSMenu& record) {
             action->setShortcutContext(Qt::WidgetShortcut);
             action->setShortcutVisibleInContextMenu(true);
         }
-        QObject::connect(action, &QAction::triggered, &menu, [item] { item.action(item); });
+        if (item.action) {
+            QObject::connect(action, &QAction::triggered, &menu, [item] { item.action(item); });
+        }
     }
 }
 
-QMenu& popUpMenu(NSMenu& record, const QPoint& place, QWidget& parent) {
+void popUpMenu(NSMenu& record, const QPoint& place, QWidget& parent) {
     validateMenu(record);
     auto* const menu = new QMenu(&parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     fillMenu(*menu, record);
     menu->popup(place);
-    return *menu;
+}
+
+void pullDownMenu(NSMenu& record, QAbstractButton& button) {
+    popUpMenu(record, button.mapToGlobal(button.rect().bottomLeft()), button);
+    const auto* const menu = button.findChild<QMenu*>();
+    QObject::connect(menu, &QMenu::aboutToHide, &button, [&button] {
+        button.setDown(false);
+        // The menu had the mouse: nothing has told the button that it left.
+        const bool isUnderMouse = button.rect().contains(button.mapFromGlobal(QCursor::pos()));
+        button.setAttribute(Qt::WA_UnderMouse, isUnderMouse);
+    });
 }
 
 void addShortcuts(QWidget& window, const NSMenu& record) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QMenu>
 
 #include "platform/NSMenu.h"
@@ -11,7 +12,9 @@ void fillMenu(QMenu& menu, const NSMenu& record);
 
 // Shows the menu of the record, brought up to date, with its top left corner at a place of the
 // screen. It goes when it closes.
-QMenu& popUpMenu(NSMenu& record, const QPoint& place, QWidget& parent);
+void popUpMenu(NSMenu& record, const QPoint& place, QWidget& parent);
+// The same below a button, which stays down as long as the menu is open.
+void pullDownMenu(NSMenu& record, QAbstractButton& button);
 
 // Makes the key equivalents of the record's items work wherever the focus is within the window. The
 // record has to outlive the window.

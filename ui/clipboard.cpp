@@ -23,7 +23,7 @@ std::u16string DYXWindowController::stringRepresentation() {
         cDisplay().setOutputTo(stack().x());
     }
     const DYXOutputDisplay& line = isAsShown ? xDisplay() : cDisplay();
-    const std::u16string mantissa = textOf(line.mantissaSignField()) + textOf(line.mantissaField());
+    std::u16string mantissa = textOf(line.mantissaSignField()) + textOf(line.mantissaField());
     const std::u16string exponent = textOf(line.exponentField());
     if (exponent.empty()) {
         return mantissa;

@@ -176,8 +176,27 @@ NSMenu viewMenu(Controller& controller) {
         switchItem(controller, u"Hide the X Label when X Stands Alone",
                    &Controller::takeXRegisterLabelAutomaticallyHiddenFrom,
                    [](const Controller& now) { return now.settings().autoHideXLabel; }),
+        switchItem(controller, u"Tell What a Key Does", &Controller::takeStatusLinesEnabledFrom,
+                   [](const Controller& now) { return now.settings().statusLinesEnabled; }),
         switchItem(controller, u"Animate Window Sizing", &Controller::takeWindowSizingAnimationFrom,
                    [](const Controller& now) { return now.settings().animateWindow; })};
+    return menu;
+}
+
+// An item of something that the window doesn't have yet.
+NSMenuItem absentItem(std::u16string_view title) {
+    NSMenuItem item;
+    item.title = title;
+    item.enabled = false;
+    return item;
+}
+
+NSMenu drawersMenu() {
+    NSMenu menu;
+    for (const std::u16string_view title :
+         {u"Memory Drawer", u"Constants Drawer", u"Conversion Drawer", u"Functions Drawer"}) {
+        menu.items.push_back(absentItem(title));
+    }
     return menu;
 }
 
@@ -230,6 +249,7 @@ NSMenu mainMenu(Controller& controller) {
         submenu(u"Digits", digitsMenu(controller)),
         submenu(u"Format", formatMenu(controller)),
         submenu(u"View", viewMenu(controller)),
+        submenu(u"Drawers", drawersMenu()),
         separator(),
         commandItem(controller, u"Save", [](Controller& now) { now.saveDocument(); }),
         commandItem(controller, u"Revert to Saved",
