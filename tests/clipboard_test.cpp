@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <set>
 #include <string>
 
@@ -17,6 +18,8 @@ namespace talvex {
 namespace {
 
 using Text = std::u16string;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
 
@@ -64,7 +67,7 @@ TEST_F(Clipboard, CopiesWhatTheLineShowsInEveryMode) {
         {11, 5, u"0000000000000101 bin", u"0000 0000 0000 0101  bin"},
         {12, M_PI, u"\u03C0", u"\u03C0"},
         {0, DYXnan('L'), u"log error", u"log error"},
-        {0, -INFINITY, u"-\u221E", u"-\u221E"},
+        {0, -kInfinity, u"-\u221E", u"-\u221E"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.mode);
@@ -137,7 +140,7 @@ TEST(InternationalDoubleValue, ReadsTheNumberThatATextStartsWith) {
              {u"1e", 1},
              {u"1e+", 1},
              {u"2E-2", 0.02},
-             {u"1e999", INFINITY},
+             {u"1e999", kInfinity},
              {u"-1e-999", -0.0},
              {u"inf", 0},
              {u"nan", 0},
@@ -146,7 +149,7 @@ TEST(InternationalDoubleValue, ReadsTheNumberThatATextStartsWith) {
              {u"\u0661", 0},
              {u"FF hex", 0},
              {u"10 : 34", 10},
-             {Text(100'000, u'9'), INFINITY},
+             {Text(100'000, u'9'), kInfinity},
              {Text(100'000, u' ') + u"5", 0}};
     for (const auto& row : rows) {
         const double number = ZUStringExtensions::internationalDoubleValue(row.text);

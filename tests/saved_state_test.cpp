@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <string>
 
 #include "numeric/DYXnan.h"
@@ -23,6 +24,8 @@ namespace talvex {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 class SavedFile : public testing::Test {
   protected:
@@ -61,10 +64,10 @@ NSMenuItem itemOf(int tag, int state = 0) {
 }
 
 TEST_F(SavedFile, BringsEverythingBackToTheBit) {
-    const std::array<double, 4> stack{DYXnan('L'), -0.0, INFINITY, 5e-324};
+    const std::array<double, 4> stack{DYXnan('L'), -0.0, kInfinity, 5e-324};
     {
         DYXWindowController calculator(platform);
-        calculator.stack() = {.reg = stack, .lastX = -INFINITY};
+        calculator.stack() = {.reg = stack, .lastX = -kInfinity};
         for (std::size_t index = 0; index < 21; ++index) {
             calculator.mem().at(index) = 1.0 / (1.0 + static_cast<double>(index));
         }
@@ -92,7 +95,7 @@ TEST_F(SavedFile, BringsEverythingBackToTheBit) {
     for (std::size_t index = 0; index < 4; ++index) {
         EXPECT_TRUE(isSame(calculator.stack().reg.at(index), stack.at(index))) << index;
     }
-    EXPECT_EQ(calculator.stack().lastX, -INFINITY);
+    EXPECT_EQ(calculator.stack().lastX, -kInfinity);
     EXPECT_EQ(calculator.mem()[20], 1.0 / 21.0);
     const DYXInputDisplay& line = calculator.xDisplay();
     EXPECT_EQ(line.outputMode(), 5);
@@ -276,7 +279,7 @@ TEST_F(SavedFile, RefusesWhatIsNested) {
 // Whatever is left of a file that was cut or hit by a stray bit, it is read, shown and saved again.
 TEST_F(SavedFile, SurvivesEveryTruncationAndManyFlippedBits) {
     SavedState state;
-    state.reg = {DYXnan('L'), -0.0, INFINITY, 1.5};
+    state.reg = {DYXnan('L'), -0.0, kInfinity, 1.5};
     for (const auto flavour : {PropertyListFlavour::xml, PropertyListFlavour::binary}) {
         const std::string whole = writePropertyList(propertiesOf(state), flavour);
         for (std::size_t length = 0; length < whole.size(); ++length) {
