@@ -83,7 +83,7 @@ void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
     content_->setGeometry(0, kBar, body.width(), body.height() - kBar);
     setMask(body);
     if (isVisible()) {
-        if (placeOfRecord() != pos()) {
+        if (placeOfRecord() != pos() && isOnScreen(QRect(placeOfRecord(), size()))) {
             move(placeOfRecord());
         }
         publishFrameExtents(*this, marginsAround(body, size()));

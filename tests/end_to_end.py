@@ -21,12 +21,12 @@ CARET_ON_A_GERMAN_KEYBOARD = 49  # a dead key
 
 class Calculator:
     def __init__(self):
-        self.application = wait_until(self._find_application, "the program to show up")
+        self.application = wait_until(self.application_on_the_bus, "the program to show up")
         self.application.set_cache_mask(Atspi.Cache.NONE)
         wait_until(lambda: self.find("X: "), "the display")
 
     @staticmethod
-    def _find_application():
+    def application_on_the_bus():
         root = Atspi.get_desktop(0)
         for index in range(root.get_child_count()):
             child = root.get_child_at_index(index)
@@ -65,6 +65,22 @@ class Calculator:
         for name in names:
             box = self.key(name).get_extents(Atspi.CoordType.SCREEN)
             xdotool("mousemove", box.x + box.width // 2, box.y + box.height // 2, "click", 1)
+
+
+class Process:
+    """The program, which can be ended and started again."""
+
+    def __init__(self):
+        self.process = subprocess.Popen([PROGRAM])
+
+    def end(self):
+        self.process.terminate()
+        self.process.wait()
+
+    def restart(self):
+        self.end()
+        wait_until(lambda: Calculator.application_on_the_bus() is None, "the program to go")
+        self.process = subprocess.Popen([PROGRAM])
 
 
 class EndToEnd(unittest.TestCase):
@@ -145,6 +161,22 @@ class EndToEnd(unittest.TestCase):
         finally:
             subprocess.run(["setxkbmap", "us"], check=True)
 
+    def test_x_travels_through_the_clipboard(self):
+        xdotool("key", "2", "period", "5", "Return", "ctrl+Insert")
+        clipboard = ["xclip", "-selection", "clipboard"]
+        wait_until(lambda: subprocess.run([*clipboard, "-o"], capture_output=True).stdout ==
+                   b"2.5000", "the copied number")
+        subprocess.run(clipboard, input=b"-7,25 and so on", check=True)
+        xdotool("key", "shift+Insert")
+        self.expect_x("-7.250" + THIN + "0")
+
+    def test_a_restart_brings_the_entry_back(self):
+        xdotool("key", "4", "2")
+        self.expect_x("42")
+        PROCESS.restart()
+        self.calculator = Calculator()
+        self.expect_x("42.000" + THIN + "0")
+
     def test_four_lines_show_the_stack(self):
         self.calculator.click("show the registers Y, Z and T")
         xdotool("key", "4", "Return", "5", "Return", "6", "Return", "7")
@@ -158,6 +190,9 @@ if __name__ == "__main__":
     os.environ["LC_ALL"] = "C.UTF-8"
     os.environ.pop("QT_QPA_PLATFORM", None)
     with desktop() as SCREEN, \
-            running(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"]), \
-            running([PROGRAM]):
-        unittest.main()
+            running(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"]):
+        PROCESS = Process()
+        try:
+            unittest.main()
+        finally:
+            PROCESS.end()
