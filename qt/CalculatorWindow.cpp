@@ -48,8 +48,7 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       controller_(controller),
       body_(new QWidget(this)),
-      titleBar_(new TitleBar(controller.views().window, *controller.views().xyztButton,
-                             controller.views().menu, body_)),
+      titleBar_(new TitleBar(controller, body_)),
       content_(new QWidget(body_)) {
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);

@@ -65,6 +65,11 @@ void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
         case Sign::minimise:
             painter.drawLine(QPointF(box.left(), box.bottom()), box.bottomRight());
             break;
+        case Sign::keyPad:
+            painter.drawRoundedRect(box, 1.0, 1.0);
+            painter.drawLine(QPointF(box.left(), box.center().y()),
+                             QPointF(box.right(), box.center().y()));
+            break;
         case Sign::menu:
             for (const double height : {box.top(), box.center().y(), box.bottom()}) {
                 painter.drawLine(QPointF(box.left(), height), QPointF(box.right(), height));
@@ -73,16 +78,20 @@ void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
     }
 }
 
-TitleBar::TitleBar(const NSWindow& window, NSButton& xyztButton, NSMenu& menu, QWidget* parent)
+TitleBar::TitleBar(DYXWindowController& controller, QWidget* parent)
     : QWidget(parent),
-      window_(window),
+      window_(controller.views().window),
       close_(new TitleBarButton(TitleBarButton::Sign::close, QStringLiteral("close"), this)),
       minimise_(
           new TitleBarButton(TitleBarButton::Sign::minimise, QStringLiteral("minimise"), this)),
+      keyPad_(new TitleBarButton(TitleBarButton::Sign::keyPad,
+                                 QStringLiteral("show or hide the key pad"), this)),
       menuButton_(new TitleBarButton(TitleBarButton::Sign::menu, QStringLiteral("menu"), this)),
-      xyzt_(new TitleBarButton(xyztButton, this)) {
+      xyzt_(new TitleBarButton(*controller.views().xyztButton, this)) {
+    connect(keyPad_, &QAbstractButton::clicked, this,
+            [&controller] { controller.takeShowKeyPadFrom(); });
     connect(menuButton_, &QAbstractButton::pressed, this,
-            [this, &menu] { pullDownMenu(menu, *menuButton_); });
+            [this, &controller] { pullDownMenu(controller.views().menu, *menuButton_); });
     connect(close_, &QAbstractButton::clicked, this, [this] { this->window()->close(); });
     connect(minimise_, &QAbstractButton::clicked, this,
             [this] { this->window()->showMinimized(); });
@@ -91,7 +100,8 @@ TitleBar::TitleBar(const NSWindow& window, NSButton& xyztButton, NSMenu& menu, Q
 void TitleBar::resizeEvent(QResizeEvent* /*event*/) {
     close_->setGeometry(kEdge, kButtonTop, kButtonSide, kButtonSide);
     minimise_->setGeometry(kEdge + kStep, kButtonTop, kButtonSide, kButtonSide);
-    menuButton_->setGeometry(kEdge + 2 * kStep, kButtonTop, kButtonSide, kButtonSide);
+    keyPad_->setGeometry(kEdge + 2 * kStep, kButtonTop, kButtonSide, kButtonSide);
+    menuButton_->setGeometry(kEdge + 3 * kStep, kButtonTop, kButtonSide, kButtonSide);
     xyzt_->setGeometry(width() - kXyztFromRight, (height() - kIconSide) / 2, kIconSide, kIconSide);
 }
 

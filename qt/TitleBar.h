@@ -5,16 +5,16 @@
 #include <optional>
 
 #include "platform/NSButton.h"
-#include "platform/NSMenu.h"
 #include "platform/NSWindow.h"
 #include "qt/RecordObserver.h"
+#include "ui/DYXWindowController.h"
 
 namespace talvex {
 
 // A small button of the title bar: the window's own ones draw a sign, the others their image.
 class TitleBarButton final : public QAbstractButton {
   public:
-    enum class Sign { close, minimise, menu };
+    enum class Sign { close, minimise, keyPad, menu };
 
     TitleBarButton(Sign sign, const QString& name, QWidget* parent);
     TitleBarButton(NSButton& record, QWidget* parent);
@@ -33,7 +33,7 @@ class TitleBarButton final : public QAbstractButton {
 // The bar above the content: the title, the buttons, and the place to drag the window by.
 class TitleBar final : public QWidget {
   public:
-    TitleBar(const NSWindow& window, NSButton& xyztButton, NSMenu& menu, QWidget* parent);
+    explicit TitleBar(DYXWindowController& controller, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -46,6 +46,7 @@ class TitleBar final : public QWidget {
     const NSWindow& window_;
     TitleBarButton* close_;
     TitleBarButton* minimise_;
+    TitleBarButton* keyPad_;
     TitleBarButton* menuButton_;
     TitleBarButton* xyzt_;
     std::optional<QPoint> dragStart_;  // of a drag that the desktop doesn't do for us

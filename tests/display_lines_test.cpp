@@ -209,6 +209,35 @@ TEST_F(WindowLines, ShowAllFourWithTheTopLeftCornerAndTheKeyPadInPlace) {
     }
 }
 
+// Every order of the two switches leads to the size of the layout, with the top left corner in
+// place.
+TEST_F(WindowLines, ShowAndHideTheKeyPad) {
+    const NSRect start = controller.views().window.frame();
+    const auto expectLayout = [&](double width, double height, bool hasKeyPad) {
+        const NSRect& frame = controller.views().window.frame();
+        EXPECT_EQ(frame.width, width);
+        EXPECT_EQ(frame.height, height + NSWindow::kTitleBarHeight);
+        EXPECT_EQ(frame.x, start.x);
+        EXPECT_EQ(frame.y + frame.height, start.y + start.height);
+        EXPECT_EQ(controller.views().keyPad.view()->isHidden(), !hasKeyPad);
+        const NSRect& display = controller.views().displayView->frame();
+        EXPECT_EQ(display.width, width - 10);
+        EXPECT_EQ(display.y + display.height, height - 2);
+    };
+    const NSRect display = controller.views().displayView->frame();
+    const NSRect keyPad = controller.views().keyPad.view()->frame();
+    controller.takeShowKeyPadFrom();
+    expectLayout(274, 45, false);
+    controller.takeShowYZTRegistersFrom();
+    expectLayout(274, 105, false);
+    controller.takeShowKeyPadFrom();
+    expectLayout(404, 271, true);
+    controller.takeShowYZTRegistersFrom();
+    expectLayout(404, 211, true);
+    EXPECT_EQ(controller.views().displayView->frame(), display);
+    EXPECT_EQ(controller.views().keyPad.view()->frame(), keyPad);
+}
+
 TEST(DataExtensions, AreBigEndianBytes) {
     using namespace DYXDataExtensions;
     using Bytes = std::vector<std::uint8_t>;

@@ -87,15 +87,31 @@ void DYXWindowController::takeShowYZTRegistersFrom() {
     keyPad.setAutoresizingMask(keyPadMask);
 }
 
-// The top left corner comes to the one of the frame.
-void DYXWindowController::setUpWindow(const NSRect& frame, std::int32_t displayViewMode) {
-    if ((displayViewMode == 1) != (layout_.displayViewMode == 1)) {
-        takeShowYZTRegistersFrom();
+void DYXWindowController::takeShowKeyPadFrom() { setKeyPadHidden(!layout_.keyPadHidden); }
+
+// The key pad is there whenever the window is large enough for it.
+void DYXWindowController::setKeyPadHidden(bool hidden) {
+    layout_.keyPadHidden = hidden;
+    if (!hidden) {
+        views_->keyPad.view()->setHidden(false);
     }
+    resizeWindow();
+    views_->keyPad.view()->setHidden(hidden);
+}
+
+// The top left corner comes to the one of the frame.
+void DYXWindowController::setUpWindow(const NSRect& frame, bool keyPadHidden,
+                                      std::int32_t displayViewMode) {
     NSRect placed = views_->window.frame();
     placed.x = frame.x;
     placed.y = frame.y + frame.height - placed.height;
     views_->window.setFrame(placed);
+    if (keyPadHidden != layout_.keyPadHidden) {
+        setKeyPadHidden(keyPadHidden);
+    }
+    if (displayViewMode != layout_.displayViewMode) {
+        takeShowYZTRegistersFrom();
+    }
 }
 
 void DYXWindowController::resizeWindow() {

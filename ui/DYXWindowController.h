@@ -69,6 +69,8 @@ class DYXWindowController final : public DYXCalculator, public NSResponder {
 
     // Shows or hides the lines Y, Z and T; the top left corner of the window stays.
     void takeShowYZTRegistersFrom();
+    // Hides the key pad, or shows it again.
+    void takeShowKeyPadFrom();
 
     void setDigitGroupingSeparatorMode(std::int32_t mode);
     void setDigitGroupingDigitsMode(std::int32_t mode);
@@ -123,7 +125,8 @@ class DYXWindowController final : public DYXCalculator, public NSResponder {
     void followLine();
     void setUnlocked(bool isUnlocked);
     void applyState(const SavedState& state);
-    void setUpWindow(const NSRect& frame, std::int32_t displayViewMode);
+    void setUpWindow(const NSRect& frame, bool keyPadHidden, std::int32_t displayViewMode);
+    void setKeyPadHidden(bool hidden);
     [[nodiscard]] SavedState presentState() const;
     [[nodiscard]] HotKeyState hotKeyState() const;
     [[nodiscard]] std::array<DYXOutputDisplay*, 5> lines();

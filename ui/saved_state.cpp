@@ -32,6 +32,7 @@ SavedState DYXWindowController::presentState() const {
     state.digitGroupingDigitsMode = settings_.digitGroupingDigitsMode;
     state.includeDigitGroupingWhenCopying = settings_.includeDigitGroupingWhenCopying;
     state.fontMode = settings_.fontMode;
+    state.keyPadHidden = layout_.keyPadHidden;
     state.displayViewMode = layout_.displayViewMode;
     state.calculatorFrame = views_->window.frame();
     return state;
@@ -62,7 +63,7 @@ void DYXWindowController::applyState(const SavedState& state) {
     setDigitGroupingSeparatorMode(state.digitGroupingSeparatorMode);
     setDigitGroupingDigitsMode(state.digitGroupingDigitsMode);
     if (state.calculatorFrame) {
-        setUpWindow(*state.calculatorFrame, state.displayViewMode);
+        setUpWindow(*state.calculatorFrame, state.keyPadHidden, state.displayViewMode);
     }
 }
 
