@@ -86,8 +86,8 @@ void act(DYXWindowController& calculator, FuzzInput& bytes) {
             break;
         case 11:
         case 12: {
-            const auto& buttons = calculator.views().keyPad.buttons();
-            buttons[bytes.take<std::uint8_t>() % buttons.size()]->performClick();
+            const std::vector<Key> keys = calculator.views().allKeys();
+            keys[bytes.take<std::uint16_t>() % keys.size()].button->performClick();
             break;
         }
         default:

@@ -13,8 +13,6 @@ namespace {
 constexpr std::size_t kLongestText = kMostDecimalPlaces + 320;
 using Buffer = std::array<char, kLongestText>;
 
-constexpr unsigned kGeneralDigits = 6;
-
 std::string print(double value, std::chars_format format, unsigned places) {
     Buffer buffer;
     const int precision = static_cast<int>(std::min(places, kMostDecimalPlaces));
@@ -55,8 +53,14 @@ std::string fixedText(double value, unsigned places) {
     return print(value, std::chars_format::fixed, places);
 }
 
-std::string generalText(double value) {
-    return print(value, std::chars_format::general, kGeneralDigits);
+std::string generalText(double value, unsigned digits) {
+    return print(value, std::chars_format::general, digits);
+}
+
+std::string shortestText(double value) {
+    Buffer buffer;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    return {buffer.data(), result.ptr};
 }
 
 ScientificText scientificText(double value, unsigned places) {

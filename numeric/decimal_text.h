@@ -15,8 +15,13 @@ inline constexpr unsigned kMostDecimalPlaces = 1074;
 // beyond `kMostDecimalPlaces` are left out.
 std::string fixedText(double value, unsigned places);
 
-// A finite `value` with six significant digits, plain or with an exponent, as "%g" prints it.
-std::string generalText(double value);
+// A finite `value` with at most so many significant digits, plain or with an exponent, as "%.*g"
+// prints it.
+inline constexpr unsigned kGeneralDigits = 6;
+std::string generalText(double value, unsigned digits = kGeneralDigits);
+
+// The shortest decimal that is read back as the same finite `value`.
+std::string shortestText(double value);
 
 // A number in scientific form: one digit, a point if there are more, the other digits; and the
 // decimal exponent.

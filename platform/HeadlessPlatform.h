@@ -21,6 +21,8 @@ class HeadlessPlatform final : public Platform {
     }
     void setPasteboardString(const std::u16string& text) override { pasteboard = text; }
     [[nodiscard]] std::string NSHomeDirectory() const override { return home; }
+    [[nodiscard]] std::vector<NSRect> visibleFramesOfScreens() const override { return screens; }
+    [[nodiscard]] std::uint32_t GetCurrentButtonState() const override { return mouseButtons; }
     void terminate() override { isTerminated = true; }
 
     int beeps = 0;
@@ -29,6 +31,8 @@ class HeadlessPlatform final : public Platform {
     NSNumberFormat format;
     std::optional<std::u16string> pasteboard;
     std::string home;  // none, unless a test gives one
+    std::vector<NSRect> screens{{.width = 1920.0, .height = 1080.0}};
+    std::uint32_t mouseButtons = 0;
     bool isTerminated = false;
 };
 

@@ -8,13 +8,18 @@
 
 namespace talvex {
 
-// The record of one line of text that isn't edited.
+// The record of one line of text that isn't edited, plain or with attributes of its own.
 class NSTextField : public NSView {
   public:
     using NSView::NSView;
 
     [[nodiscard]] const std::u16string& stringValue() const { return stringValue_; }
     void setStringValue(std::u16string value);
+    // Empty if the text is a plain one.
+    [[nodiscard]] const NSAttributedString& attributedStringValue() const {
+        return attributedStringValue_;
+    }
+    void setAttributedStringValue(NSAttributedString value);
 
     [[nodiscard]] const NSColor& textColor() const { return textColor_; }
     void setTextColor(const NSColor& color);
@@ -27,6 +32,7 @@ class NSTextField : public NSView {
 
   private:
     std::u16string stringValue_;
+    NSAttributedString attributedStringValue_;
     NSColor textColor_;
     NSFont font_;
     NSTextAlignment alignment_ = NSTextAlignment::left;

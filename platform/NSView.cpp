@@ -1,5 +1,6 @@
 #include "platform/NSView.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace talvex {
@@ -31,7 +32,9 @@ void NSView::setFrame(const NSRect& frame) {
     if (oldSize == newSize) {
         return;
     }
-    for (const auto& view : subviews_) {
+    // A subview may put another one in its place as it is resized.
+    const std::vector<std::shared_ptr<NSView>> views = subviews_;
+    for (const auto& view : views) {
         view->resizeWithOldSuperviewSize(oldSize, newSize);
         // Whoever draws from the top has to move it even if it stays where it is from the bottom.
         view->setNeedsDisplay();
@@ -60,6 +63,53 @@ void NSView::addSubview(std::shared_ptr<NSView> view) {
     view->superview_ = this;
     subviews_.push_back(std::move(view));
     setNeedsDisplay();
+}
+
+void NSView::removeFromSuperview() {
+    if (superview_ == nullptr) {
+        return;
+    }
+    std::vector<std::shared_ptr<NSView>>& views = superview_->subviews_;
+    superview_ = nullptr;
+    views.erase(std::find_if(views.begin(), views.end(),
+                             [this](const auto& view) { return view.get() == this; }));
+}
+
+int NSView::addTrackingRect(const NSRect& rect, NSTrackingOwner& owner, const void* userData,
+                            bool assumeInside) {
+    trackingRects_.push_back({.tag = ++lastTag_,
+                              .rect = rect,
+                              .owner = &owner,
+                              .userData = userData,
+                              .isInside = assumeInside});
+    return lastTag_;
+}
+
+void NSView::removeTrackingRect(int tag) {
+    const auto hasTag = [tag](const TrackingRect& tracked) { return tracked.tag == tag; };
+    trackingRects_.erase(std::remove_if(trackingRects_.begin(), trackingRects_.end(), hasTag),
+                         trackingRects_.end());
+}
+
+void NSView::pointerMoved(const std::optional<NSPoint>& place) {
+    const auto contains = [&place](const NSRect& rect) {
+        return place && place->x >= rect.x && place->x < rect.x + rect.width &&
+               place->y >= rect.y && place->y < rect.y + rect.height;
+    };
+    std::vector<TrackingRect> crossed;
+    for (TrackingRect& tracked : trackingRects_) {
+        if (contains(tracked.rect) != tracked.isInside) {
+            tracked.isInside = !tracked.isInside;
+            crossed.push_back(tracked);
+        }
+    }
+    for (const TrackingRect& tracked : crossed) {
+        if (tracked.isInside) {
+            tracked.owner->mouseEntered(tracked.userData);
+        } else {
+            tracked.owner->mouseExited(tracked.userData);
+        }
+    }
 }
 
 NSWindow* NSView::window() const { return superview_ != nullptr ? superview_->window() : window_; }

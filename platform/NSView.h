@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,16 @@ class NSViewObserver {
 
   protected:
     ~NSViewObserver() = default;
+};
+
+// Hears of the pointer at the rectangles that it asked a view to track.
+class NSTrackingOwner {
+  public:
+    virtual void mouseEntered(const void* userData) = 0;
+    virtual void mouseExited(const void* userData) = 0;
+
+  protected:
+    ~NSTrackingOwner() = default;
 };
 
 // Autoresizing: which margins and sizes take up a change of the superview's size.
@@ -46,14 +57,14 @@ class NSView {
 
     [[nodiscard]] const NSRect& frame() const { return frame_; }
     // Moves or resizes the view; its subviews follow by their autoresizing masks.
-    void setFrame(const NSRect& frame);
+    virtual void setFrame(const NSRect& frame);
     [[nodiscard]] NSRect bounds() const { return {.width = frame_.width, .height = frame_.height}; }
 
     [[nodiscard]] bool isHidden() const { return hidden_; }
     void setHidden(bool hidden);
 
     [[nodiscard]] std::uint32_t autoresizingMask() const { return autoresizingMask_; }
-    void setAutoresizingMask(std::uint32_t mask) { autoresizingMask_ = mask; }
+    virtual void setAutoresizingMask(std::uint32_t mask) { autoresizingMask_ = mask; }
 
     [[nodiscard]] const std::u16string& toolTip() const { return toolTip_; }
     void setToolTip(std::u16string toolTip);
@@ -66,9 +77,20 @@ class NSView {
     [[nodiscard]] const std::vector<std::shared_ptr<NSView>>& subviews() const { return subviews_; }
     // Puts the view on top of the other subviews. A view has one superview at most.
     void addSubview(std::shared_ptr<NSView> view);
+    // Does nothing without a superview; the view goes if nobody else holds it.
+    void removeFromSuperview();
 
     // The window that the view is in, if it is in one.
     [[nodiscard]] NSWindow* window() const;
+
+    // Tells the owner when the pointer enters and leaves the rectangle, with the data given here.
+    // The tag names the rectangle. The pointer counts as outside at first unless told otherwise.
+    int addTrackingRect(const NSRect& rect, NSTrackingOwner& owner, const void* userData,
+                        bool assumeInside);
+    void removeTrackingRect(int tag);
+    [[nodiscard]] std::size_t numberOfTrackingRects() const { return trackingRects_.size(); }
+    // Where the pointer is over the view now, or that it isn't over it any more.
+    void pointerMoved(const std::optional<NSPoint>& place);
 
     // What an event meets on its way: a view that has no use for it hands it to its superview. A
     // key that nobody took answers false.
@@ -104,6 +126,16 @@ class NSView {
     NSWindow* window_ = nullptr;  // of a content view
     std::vector<std::shared_ptr<NSView>> subviews_;
     NSViewObserver* observer_ = nullptr;
+
+    struct TrackingRect {
+        int tag;
+        NSRect rect;
+        NSTrackingOwner* owner;
+        const void* userData;
+        bool isInside;
+    };
+    std::vector<TrackingRect> trackingRects_;
+    int lastTag_ = 0;
 };
 
 }  // namespace talvex

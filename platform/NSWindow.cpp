@@ -18,11 +18,30 @@ void NSWindow::setTitle(std::u16string title) {
 }
 
 void NSWindow::setFrame(const NSRect& frame) {
+    const bool isResized = frame.width != frame_.width || frame.height != frame_.height;
     frame_ = frame;
+    frameView_->setFrame({.width = frame.width, .height = frame.height});
     if (contentView_) {
         contentView_->setFrame({.width = frame.width, .height = frame.height - kTitleBarHeight});
     }
     notify();
+    if (isResized && delegate_ != nullptr) {
+        delegate_->windowDidResize();
+    }
+}
+
+void NSWindow::setFrameDisplayAnimate(const NSRect& frame, bool animate) {
+    if (animate && observer_ != nullptr) {
+        observer_->windowWillAnimate(*this);
+    }
+    setFrame(frame);
+}
+
+void NSWindow::setFrameTopLeftPoint(const NSPoint& point) {
+    NSRect frame = frame_;
+    frame.x = point.x;
+    frame.y = point.y - frame.height;
+    setFrame(frame);
 }
 
 void NSWindow::setContentView(std::shared_ptr<NSView> view) {

@@ -10,12 +10,13 @@ namespace talvex {
 
 struct NSEvent;
 
-// What a window's content hands on: the keys and the modifier keys.
+// What a window's content hands on, the keys and the modifier keys, and what the window tells.
 class NSResponder {
   public:
     // Whether the key was taken.
     virtual bool keyDown(const NSEvent& event) = 0;
     virtual void flagsChanged(const NSEvent& event) = 0;
+    virtual void windowDidResize() {}
 
   protected:
     ~NSResponder() = default;
@@ -26,6 +27,8 @@ class NSWindow;
 class NSWindowObserver {
   public:
     virtual void windowDidChange(const NSWindow& window) = 0;
+    // The next change is to be a motion.
+    virtual void windowWillAnimate(const NSWindow& /*window*/) {}
 
   protected:
     ~NSWindowObserver() = default;
@@ -46,7 +49,11 @@ class NSWindow {
     [[nodiscard]] const NSRect& frame() const { return frame_; }
     // Places the window; its content takes the size below the title bar.
     void setFrame(const NSRect& frame);
+    void setFrameDisplayAnimate(const NSRect& frame, bool animate);
+    void setFrameTopLeftPoint(const NSPoint& point);
 
+    // All of the window, title bar included.
+    [[nodiscard]] NSView& frameView() { return *frameView_; }
     [[nodiscard]] NSView* contentView() const { return contentView_.get(); }
     void setContentView(std::shared_ptr<NSView> view);
 
@@ -65,6 +72,7 @@ class NSWindow {
 
     std::u16string title_;
     NSRect frame_;
+    std::shared_ptr<NSView> frameView_ = std::make_shared<NSView>();
     std::shared_ptr<NSView> contentView_;
     NSResponder* delegate_ = nullptr;
     NSView* firstResponder_ = nullptr;

@@ -3,6 +3,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
+
+#include "platform/NSGeometry.h"
 
 // The few things that only a real desktop can do, each behind a small port.
 namespace talvex {
@@ -65,6 +68,24 @@ class FilePort {
     ~FilePort() = default;
 };
 
+class ScreenPort {
+  public:
+    // What can be used of each screen, the first one being the user's main one; none if unknown.
+    [[nodiscard]] virtual std::vector<NSRect> visibleFramesOfScreens() const = 0;
+
+  protected:
+    ~ScreenPort() = default;
+};
+
+class MousePort {
+  public:
+    // The mouse buttons that are down; the primary one is bit 0.
+    [[nodiscard]] virtual std::uint32_t GetCurrentButtonState() const = 0;
+
+  protected:
+    ~MousePort() = default;
+};
+
 class ApplicationPort {
   public:
     // Ends the program; the controller still hears that it will.
@@ -81,6 +102,8 @@ class Platform : public AlertPort,
                  public LocalePort,
                  public PasteboardPort,
                  public FilePort,
+                 public ScreenPort,
+                 public MousePort,
                  public ApplicationPort {
   public:
     virtual ~Platform() = default;

@@ -2,97 +2,148 @@
 
 #include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QPainter>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
 
-#include "qt/DisplayWidget.h"
-#include "qt/KeyButton.h"
-#include "qt/TitleBar.h"
+#include "qt/BodyWidget.h"
+#include "qt/DrawerWidget.h"
+#include "qt/PanelWidget.h"
 #include "qt/frame_extents.h"
 #include "qt/menus.h"
-#include "qt/palette.h"
 #include "ui/window_layout.h"
 
 namespace talvex {
 namespace {
 
-// The room that the drawers need on each side of the body, and the largest body.
-constexpr QMargins kDrawerRoom(360, 240, 200, 220);
-constexpr QSize kLargestBody(404, 288 + static_cast<int>(NSWindow::kTitleBarHeight));
+constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
 
 QMargins marginsAround(const QRect& body, const QSize& canvas) {
     return {body.left(), body.top(), canvas.width() - body.right() - 1,
             canvas.height() - body.bottom() - 1};
 }
 
-// Follows the record of the key pad for as long as the widget lives.
-class KeyPadWidget final : public QWidget {
-  public:
-    KeyPadWidget(const KeyPad& keyPad, QWidget* parent)
-        : QWidget(parent), observer_(*this, *keyPad.view()) {
-        const auto rows = keyPadRows();
-        for (std::size_t index = 0; index < rows.size(); ++index) {
-            new KeyButton(*keyPad.buttons()[index], rows[index].group, this);
-        }
-    }
+// The room that the drawers need on each side of the body.
+QMargins roomFor(const Drawers& drawers) {
+    const auto depth = [&drawers](DrawerName name) {
+        const NSDrawer& drawer = drawers[name].record;
+        const NSSize& size = drawer.maxContentSize();
+        return static_cast<int>((drawer.isLevel() ? size.height : size.width) +
+                                NSDrawer::kOuterBorder);
+    };
+    return {depth(DrawerName::constants), depth(DrawerName::conversion), depth(DrawerName::memory),
+            depth(DrawerName::functions)};
+}
 
-  private:
-    RecordObserver observer_;
-};
+QSize largestBody() {
+    const NSRect frame = NSWindow::frameRectForContentRect(
+        contentFrame({.displayViewMode = 1, .showStatusLine = true}));
+    return {static_cast<int>(frame.width), static_cast<int>(frame.height)};
+}
 
 }  // namespace
 
 CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       controller_(controller),
-      body_(new QWidget(this)),
-      titleBar_(new TitleBar(controller, body_)),
-      content_(new QWidget(body_)) {
+      drawerRoom_(roomFor(controller.drawers())),
+      focusWalk_(*this) {
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
     setWindowTitle(toQString(controller_.views().window.title()));
-    setFixedSize(kLargestBody.grownBy(kDrawerRoom));
-    new DisplayWidget(controller_, content_);
-    new KeyPadWidget(controller_.views().keyPad, content_);
+    setFixedSize(largestBody().grownBy(drawerRoom_));
     addShortcuts(*this, controller_.views().menu);
-    if (controller_.hasSavedFrame() && isOnScreen(QRect(placeOfRecord(), size()))) {
-        move(placeOfRecord());
-    } else {
-        centerOnScreen();
-    }
+    body_ = new BodyWidget(
+        controller_, [this] { showPieces(); }, this);
+    body_->move(drawerRoom_.left(), drawerRoom_.top());
+    makeDrawers();
+    body_->raise();
+    placeOnScreen();
     controller_.views().window.setObserver(this);
-    windowDidChange(controller_.views().window);
+    showPieces();
 }
 
 CalculatorWindow::~CalculatorWindow() { controller_.views().window.setObserver(nullptr); }
 
-QRect CalculatorWindow::bodyRect() const {
-    const NSRect& frame = controller_.views().window.frame();
-    return {kDrawerRoom.left(), kDrawerRoom.top(), static_cast<int>(frame.width),
-            static_cast<int>(frame.height)};
+void CalculatorWindow::makeDrawers() {
+    const DrawerWidget::Host host{.body = [this] { return bodyRect(); },
+                                  .didMove = [this] { showPieces(); },
+                                  .makeRoom = [this](const QRect& wanted) { makeRoomFor(wanted); }};
+    const auto make = [&](DrawerName name, std::function<QWidget*(QWidget*)> makeContent) {
+        drawers_.at(static_cast<std::size_t>(name)) = new DrawerWidget(
+            controller_.drawers()[name].record, std::move(makeContent), host, this);
+    };
+    const WindowViews& views = controller_.views();
+    const auto panel = [](const Panel& content) {
+        return [&content](QWidget* parent) { return makePanelWidget(content, parent); };
+    };
+    make(DrawerName::memory, panel(views.memoryPanel));
+    make(DrawerName::constants, panel(views.constantsPanel));
+    make(DrawerName::functions, panel(views.functionsPanel));
+    make(DrawerName::conversion,
+         [&views](QWidget* parent) { return makeConversionWidget(views.conversionPanel, parent); });
 }
+
+QRect CalculatorWindow::bodyRect() const { return body_->geometry(); }
+
+QRegion CalculatorWindow::visibleRegion() const {
+    QRegion region(bodyRect());
+    for (const DrawerWidget* const drawer : drawers_) {
+        region += drawer->visibleRect();
+    }
+    return region;
+}
+
+void CalculatorWindow::windowWillAnimate(const NSWindow& /*window*/) { body_->prepareMotion(); }
 
 void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
-    const QRect body = bodyRect();
-    constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
-    body_->setGeometry(body);
-    titleBar_->setGeometry(0, 0, body.width(), kBar);
-    content_->setGeometry(0, kBar, body.width(), body.height() - kBar);
-    setMask(body);
-    if (isVisible()) {
-        if (placeOfRecord() != pos() && isOnScreen(QRect(placeOfRecord(), size()))) {
-            move(placeOfRecord());
-        }
-        publishFrameExtents(*this, marginsAround(body, size()));
+    body_->followRecord();
+    if (isVisible() && placeOfRecord() != pos() && isOnScreen(QRect(placeOfRecord(), size()))) {
+        move(placeOfRecord());
     }
-    update();
 }
 
-void CalculatorWindow::centerOnScreen() {
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    move(screen.center() - bodyRect().center());
+void CalculatorWindow::showPieces() {
+    if (std::count(drawers_.begin(), drawers_.end(), nullptr) > 0) {
+        return;  // not all made yet
+    }
+    for (DrawerWidget* const drawer : drawers_) {
+        drawer->followBody();
+    }
+    const QRegion region = visibleRegion();
+    if (mask() != region) {
+        setMask(region);
+    }
+    if (isVisible()) {
+        publishFrameExtents(*this, marginsAround(bodyRect(), size()));
+    }
+}
+
+// A drawer that would open beyond the edge of the screen moves the window as far as it needs, but
+// never the title bar out of sight.
+void CalculatorWindow::makeRoomFor(const QRect& wanted) {
+    if (!isVisible()) {
+        return;
+    }
+    const QRect all = (wanted | bodyRect()).translated(pos());
+    const QRect visible = screen()->availableGeometry();
+    QPoint step(std::min(0, visible.right() - all.right()),
+                std::min(0, visible.bottom() - all.bottom()));
+    step.rx() += std::max(0, visible.left() - all.left() - step.x());
+    step.ry() += std::max(0, visible.top() - all.top() - step.y());
+    if (!step.isNull()) {
+        move(pos() + step);
+    }
+}
+
+// A place that is on no screen any more gives way to the middle of one.
+void CalculatorWindow::placeOnScreen() {
+    if (controller_.hasSavedFrame() && isOnScreen(QRect(placeOfRecord(), size()))) {
+        move(placeOfRecord());
+        return;
+    }
+    const QRect visible = QGuiApplication::primaryScreen()->availableGeometry();
+    move(visible.center() - bodyRect().center());
 }
 
 // The record's origin is the lower left corner of the first screen. A saved place may be any
@@ -111,8 +162,7 @@ QPoint CalculatorWindow::placeOfRecord() const {
 // Whether enough of the title bar is in sight to take hold of it.
 bool CalculatorWindow::isOnScreen(const QRect& canvas) const {
     constexpr int kInSight = 40;
-    const QRect bar(canvas.topLeft() + bodyRect().topLeft(),
-                    QSize(bodyRect().width(), static_cast<int>(NSWindow::kTitleBarHeight)));
+    const QRect bar(canvas.topLeft() + bodyRect().topLeft(), QSize(bodyRect().width(), kBar));
     const QList<QScreen*> screens = QGuiApplication::screens();
     return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
         const QRect seen = screen->availableGeometry().intersected(bar);
@@ -134,13 +184,6 @@ void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
     popUpMenu(controller_.views().menu, event->globalPos(), *this);
 }
 
-void CalculatorWindow::paintEvent(QPaintEvent* /*event*/) {
-    const WindowColors& colors = windowColors(palette());
-    QPainter painter(this);
-    painter.fillRect(bodyRect(), colors.border);
-    painter.fillRect(bodyRect().adjusted(1, 1, -1, -1), colors.window);
-}
-
 void CalculatorWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     publishFrameExtents(*this, marginsAround(bodyRect(), size()));
@@ -155,6 +198,13 @@ void CalculatorWindow::sendFlags() {
 void CalculatorWindow::keyPressEvent(QKeyEvent* event) {
     if (heldModifiers_.take(*event)) {
         sendFlags();
+    }
+    if (event->key() == Qt::Key_F10) {
+        popUpMenu(controller_.views().menu, body_->mapToGlobal(QPoint(0, kBar)), *this);
+        return;
+    }
+    if (focusWalk_.take(*event)) {
+        return;
     }
     const auto character = characterOfKey(*event);
     const bool isTaken =
@@ -172,20 +222,35 @@ void CalculatorWindow::keyReleaseEvent(QKeyEvent* event) {
     event->ignore();
 }
 
-// A window without the focus hears of no release, so that no modifier may outlive the focus; and
-// one that gets the focus takes over what is held.
-void CalculatorWindow::focusInEvent(QFocusEvent* event) {
-    QWidget::focusInEvent(event);
+// A window without the keyboard hears of no release, so that no modifier may outlive that; and one
+// that gets the keyboard takes over what is held.
+void CalculatorWindow::adoptModifiers() {
     if (heldModifiers_.adopt(QGuiApplication::queryKeyboardModifiers())) {
         sendFlags();
     }
 }
 
-void CalculatorWindow::focusOutEvent(QFocusEvent* event) {
-    QWidget::focusOutEvent(event);
+void CalculatorWindow::dropModifiers() {
     if (heldModifiers_.clear()) {
         sendFlags();
     }
+}
+
+void CalculatorWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        isActiveWindow() ? adoptModifiers() : dropModifiers();
+    }
+}
+
+void CalculatorWindow::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    adoptModifiers();
+}
+
+void CalculatorWindow::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    dropModifiers();
 }
 
 // Tab is a key of the calculator.

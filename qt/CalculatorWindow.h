@@ -1,27 +1,37 @@
 #pragma once
 
 #include <QWidget>
+#include <array>
 
 #include "platform/NSWindow.h"
+#include "qt/FocusWalk.h"
 #include "qt/key_events.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
 
+class BodyWidget;
+class DrawerWidget;
+
 // The calculator on the screen. Its top level is a canvas of fixed size, large enough for the body
-// in every layout with all drawers open around it; only the body is shown and can be clicked. So
-// the body never moves while something slides out of it.
+// in every layout with all drawers open around it; only the body and what shows of the drawers can
+// be seen and clicked. So the body never moves while something slides out of it.
 class CalculatorWindow final : public QWidget, public NSWindowObserver {
   public:
     explicit CalculatorWindow(DYXWindowController& controller);
     ~CalculatorWindow() override;
 
     void windowDidChange(const NSWindow& window) override;
+    void windowWillAnimate(const NSWindow& window) override;
+
+    // The body, and the body with what shows of the drawers, in the canvas.
+    [[nodiscard]] QRect bodyRect() const;
+    [[nodiscard]] QRegion visibleRegion() const;
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
@@ -30,18 +40,24 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     bool focusNextPrevChild(bool next) override;
 
   private:
-    [[nodiscard]] QRect bodyRect() const;
-    void centerOnScreen();
+    void makeDrawers();
+    // The body or a drawer is somewhere else.
+    void showPieces();
+    void makeRoomFor(const QRect& wanted);
+    void placeOnScreen();
     // Where the canvas has to stand for the body to be where the record says.
     [[nodiscard]] QPoint placeOfRecord() const;
     [[nodiscard]] bool isOnScreen(const QRect& canvas) const;
+    void adoptModifiers();
+    void dropModifiers();
     void sendFlags();
 
     DYXWindowController& controller_;
-    QWidget* body_;
-    QWidget* titleBar_;
-    QWidget* content_;
+    QMargins drawerRoom_;
+    BodyWidget* body_ = nullptr;
+    std::array<DrawerWidget*, kDrawerNames.size()> drawers_{};
     HeldModifiers heldModifiers_;
+    FocusWalk focusWalk_;
 };
 
 }  // namespace talvex

@@ -14,8 +14,8 @@ DisplayWidget::DisplayWidget(DYXWindowController& controller, QWidget* parent)
               new LineWidget(controller.zDisplay(), record_, this),
               new LineWidget(controller.yDisplay(), record_, this),
               new LineWidget(controller.xDisplay(), record_, this)};
-    new StatusWidget(*controller.xDisplay().statusField(), this);
     WindowViews& views = controller.views();
+    new StatusWidget(*controller.xDisplay().statusField(), views, this);
     for (NSPopUpButton* popUp :
          {views.angleModePopUp.get(), views.inputModePopUp.get(), views.outputModePopUp.get()}) {
         new PopUpWidget(*popUp, this);

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QLabel>
 #include <QWidget>
 #include <array>
 #include <memory>
 
 #include "display/DYXOutputDisplay.h"
+#include "qt/ControlButton.h"
 #include "qt/RecordObserver.h"
 #include "ui/DYXView.h"
 #include "ui/DYXWindowController.h"
@@ -35,21 +35,23 @@ class LineWidget final : public QLabel, public NSViewObserver {
     NSView& displayView_;
 };
 
-// The small text under the X line.
+// The small text under the X line. In a narrow window it also takes the room of the mode controls
+// that are hidden.
 class StatusWidget final : public QLabel {
   public:
-    StatusWidget(NSTextField& record, QWidget* parent);
+    StatusWidget(NSTextField& record, const WindowViews& views, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     NSTextField& record_;
+    const WindowViews& views_;
     RecordObserver observer_;
 };
 
 // A control of the display that pulls down a menu.
-class PopUpWidget final : public QAbstractButton {
+class PopUpWidget final : public ControlButton {
   public:
     PopUpWidget(NSPopUpButton& record, QWidget* parent);
 

@@ -1,6 +1,5 @@
 #include "qt/KeyButton.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 #include "qt/images.h"
@@ -21,22 +20,23 @@ constexpr double kSignSize = 13.0;
 double titleSize(const std::u16string& title, KeyGroup group, double formulaSize) {
     const bool isWord = title.size() > 2 && title[0] >= u'A' && title[1] >= u'A' &&
                         title[0] <= u'Z' && title[1] <= u'Z';
+    if (group == KeyGroup::flat) {
+        return kLongWordSize;
+    }
     if (isWord) {
         return title.size() > 3 ? kLongWordSize : kWordSize;
     }
-    const bool isSign = group == KeyGroup::digit || group == KeyGroup::operation;
-    return isSign && title.size() == 1 ? kSignSize : formulaSize;
+    const bool isDigit = title.size() == 1 && title[0] >= u'0' && title[0] <= u'9';
+    return isDigit || group == KeyGroup::operation ? kSignSize : formulaSize;
 }
 
 }  // namespace
 
 KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
-    : QAbstractButton(parent),
+    : ControlButton(&record, parent),
       record_(record),
       group_(group),
       observer_(*this, record, [this] { setChecked(record_.state() != 0); }) {
-    setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_Hover);
     setCheckable(isModifier());
     setChecked(record_.state() != 0);
     connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
@@ -45,15 +45,10 @@ KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
 
 bool KeyButton::isModifier() const { return record_.showsStateBy() != NSNoCellMask; }
 
-void KeyButton::mousePressEvent(QMouseEvent* event) {
-    QAbstractButton::mousePressEvent(event);
-    window()->activateWindow();
-}
-
 void KeyButton::paintEvent(QPaintEvent* /*event*/) {
     const bool isLit = isModifier() && record_.state() != 0;
     const WindowColors& colors = windowColors(palette());
-    const KeyColors& key = isLit ? colors.lit : colors.key(group_);
+    const KeyColors& key = isLit ? colors.litKey(group_) : colors.key(group_);
     const QColor face = isDown()       ? pressedFace(key.face)
                         : underMouse() ? hoverFace(key.face)
                                        : key.face;
@@ -64,6 +59,7 @@ void KeyButton::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
     const QRectF inside = QRectF(rect()).adjusted(kTextMargin, 0.0, -kTextMargin, 0.0);
     paintTitle(painter, isDown() ? inside.translated(0.0, 1.0) : inside, key.text);
+    paintFocusRing(painter, kRadius);
 }
 
 void KeyButton::paintTitle(QPainter& painter, const QRectF& rect, const QColor& color) const {

@@ -1,21 +1,19 @@
 #pragma once
 
-#include <QAbstractButton>
-
 #include "platform/NSButton.h"
+#include "qt/ControlButton.h"
 #include "qt/RecordObserver.h"
 #include "qt/palette.h"
 
 namespace talvex {
 
 // A key of the key pad on the screen.
-class KeyButton final : public QAbstractButton {
+class KeyButton final : public ControlButton {
   public:
     KeyButton(NSButton& record, KeyGroup group, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
     // The record's state decides whether the key is on.
     void nextCheckState() override {}
 

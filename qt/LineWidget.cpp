@@ -50,6 +50,8 @@ void paintText(QPainter& painter, const QRect& rect, const NSTextField& field, c
                      text);
 }
 
+double rightEdge(const NSView& view) { return view.frame().x + view.frame().width; }
+
 }  // namespace
 
 LineWidget::LineWidget(const DYXOutputDisplay& line, NSView& displayView, QWidget* parent)
@@ -123,16 +125,25 @@ void LineWidget::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
-StatusWidget::StatusWidget(NSTextField& record, QWidget* parent)
-    : QLabel(parent), record_(record), observer_(*this, record) {}
+StatusWidget::StatusWidget(NSTextField& record, const WindowViews& views, QWidget* parent)
+    : QLabel(parent), record_(record), views_(views), observer_(*this, record, [this] {
+          QRect wide = geometry();
+          wide.setLeft(static_cast<int>(rightEdge(*views_.inputModePopUp)));
+          setGeometry(wide);
+      }) {}
 
 void StatusWidget::paintEvent(QPaintEvent* /*event*/) {
     const QString text = toQString(record_.stringValue());
     if (accessibleName() != text) {
         setAccessibleName(text);
     }
+    const NSView& neighbour = views_.outputModePopUp->isHidden()
+                                  ? static_cast<NSView&>(*views_.inputModePopUp)
+                                  : *views_.outputModePopUp;
+    QRect room = rect();
+    room.setLeft(static_cast<int>(rightEdge(neighbour)) - x());
     QPainter painter(this);
-    paintText(painter, rect(), record_, text);
+    paintText(painter, room, record_, text);
 }
 
 }  // namespace talvex

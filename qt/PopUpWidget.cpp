@@ -15,9 +15,7 @@ const QColor kDown(0x2A, 0x2F, 0x1E, 0x48);
 }  // namespace
 
 PopUpWidget::PopUpWidget(NSPopUpButton& record, QWidget* parent)
-    : QAbstractButton(parent), record_(record), observer_(*this, record) {
-    setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_Hover);
+    : ControlButton(&record, parent), record_(record), observer_(*this, record) {
     connect(this, &QAbstractButton::pressed, this, &PopUpWidget::showMenu);
 }
 
@@ -36,6 +34,7 @@ void PopUpWidget::paintEvent(QPaintEvent* /*event*/) {
     // One point lower, on the baseline of the status text.
     painter.drawText(rect().translated(0, 1), Qt::AlignCenter | Qt::TextSingleLine,
                      toQString(record_.title()));
+    paintFocusRing(painter, kRadius);
 }
 
 }  // namespace talvex

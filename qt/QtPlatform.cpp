@@ -8,6 +8,7 @@
 #include <QLoggingCategory>
 #include <QMimeData>
 #include <QRandomGenerator>
+#include <QScreen>
 
 #include "qt/conversions.h"
 
@@ -59,6 +60,25 @@ void QtPlatform::setPasteboardString(const std::u16string& text) {
 
 std::string QtPlatform::NSHomeDirectory() const {
     return QFile::encodeName(QDir::homePath()).toStdString();
+}
+
+// The record's origin is the lower left corner of the first screen.
+std::vector<NSRect> QtPlatform::visibleFramesOfScreens() const {
+    std::vector<NSRect> frames;
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* const screen : screens) {
+        const QRect visible = screen->availableGeometry();
+        const int bottom = screens.first()->geometry().bottom();
+        frames.push_back({.x = static_cast<double>(visible.x()),
+                          .y = static_cast<double>(bottom - visible.bottom()),
+                          .width = static_cast<double>(visible.width()),
+                          .height = static_cast<double>(visible.height())});
+    }
+    return frames;
+}
+
+std::uint32_t QtPlatform::GetCurrentButtonState() const {
+    return static_cast<std::uint32_t>(QGuiApplication::mouseButtons().toInt());
 }
 
 void QtPlatform::terminate() { QCoreApplication::quit(); }

@@ -16,6 +16,8 @@ class QtPlatform final : public Platform {
     [[nodiscard]] std::optional<std::u16string> pasteboardString() const override;
     void setPasteboardString(const std::u16string& text) override;
     [[nodiscard]] std::string NSHomeDirectory() const override;
+    [[nodiscard]] std::vector<NSRect> visibleFramesOfScreens() const override;
+    [[nodiscard]] std::uint32_t GetCurrentButtonState() const override;
     void terminate() override;
 };
 

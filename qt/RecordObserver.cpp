@@ -4,8 +4,9 @@
 
 namespace talvex {
 
-RecordObserver::RecordObserver(QWidget& widget, NSView& record, std::function<void()> changed)
-    : widget_(widget), record_(record), changed_(std::move(changed)) {
+RecordObserver::RecordObserver(QWidget& widget, NSView& record, std::function<void()> changed,
+                               const NSView* within)
+    : widget_(widget), record_(record), changed_(std::move(changed)), within_(within) {
     record_.setObserver(this);
     viewDidChange(record_);
 }
@@ -13,8 +14,13 @@ RecordObserver::RecordObserver(QWidget& widget, NSView& record, std::function<vo
 RecordObserver::~RecordObserver() { record_.setObserver(nullptr); }
 
 void RecordObserver::viewDidChange(const NSView& view) {
-    if (view.superview() != nullptr) {
-        widget_.setGeometry(toQRect(view.frame(), view.superview()->frame().height));
+    if (const NSView* parent = view.superview()) {
+        NSRect frame = view.frame();
+        for (; within_ != nullptr && parent != within_; parent = parent->superview()) {
+            frame.x += parent->frame().x;
+            frame.y += parent->frame().y;
+        }
+        widget_.setGeometry(toQRect(frame, parent->frame().height));
     }
     widget_.setVisible(!view.isHidden());
     const QString toolTip = toQString(view.toolTip());

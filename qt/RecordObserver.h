@@ -12,8 +12,10 @@ namespace talvex {
 // paints the rest from the record whenever this asks for it.
 class RecordObserver final : public NSViewObserver {
   public:
-    // `changed` runs ahead of each repaint, for what the widget keeps besides.
-    RecordObserver(QWidget& widget, NSView& record, std::function<void()> changed = {});
+    // `changed` runs ahead of each repaint, for what the widget keeps besides. The widget's parent
+    // stands for the record's superview, or else for the view `within` that it is in.
+    RecordObserver(QWidget& widget, NSView& record, std::function<void()> changed = {},
+                   const NSView* within = nullptr);
     RecordObserver(const RecordObserver&) = delete;
     RecordObserver& operator=(const RecordObserver&) = delete;
     ~RecordObserver();
@@ -24,6 +26,7 @@ class RecordObserver final : public NSViewObserver {
     QWidget& widget_;
     NSView& record_;
     std::function<void()> changed_;
+    const NSView* within_;
 };
 
 }  // namespace talvex

@@ -15,26 +15,20 @@ constexpr int kButtonSide = 16;
 constexpr int kButtonTop = 3;
 constexpr int kEdge = 5;
 constexpr int kStep = 20;
-constexpr int kXyztFromRight = 25;
-constexpr int kIconSide = 13;
 constexpr double kTitleSize = 11.0;
 constexpr double kHoverRadius = 4.0;
 
 }  // namespace
 
 TitleBarButton::TitleBarButton(Sign sign, const QString& name, QWidget* parent)
-    : QAbstractButton(parent), sign_(sign) {
-    setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_Hover);
+    : ControlButton(nullptr, parent), sign_(sign) {
     setAccessibleName(name);
     setToolTip(name);
 }
 
 TitleBarButton::TitleBarButton(NSButton& record, QWidget* parent)
-    : QAbstractButton(parent), record_(&record) {
+    : ControlButton(&record, parent), record_(&record) {
     observer_.emplace(*this, record);
-    setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_Hover);
     connect(this, &QAbstractButton::clicked, this, [this] { record_->performClick(); });
 }
 
@@ -52,6 +46,7 @@ void TitleBarButton::paintEvent(QPaintEvent* /*event*/) {
     } else {
         paintImage(painter, rect(), record_->image(), colors.title);
     }
+    paintFocusRing(painter, kHoverRadius);
 }
 
 void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
@@ -86,8 +81,9 @@ TitleBar::TitleBar(DYXWindowController& controller, QWidget* parent)
           new TitleBarButton(TitleBarButton::Sign::minimise, QStringLiteral("minimise"), this)),
       keyPad_(new TitleBarButton(TitleBarButton::Sign::keyPad,
                                  QStringLiteral("show or hide the key pad"), this)),
-      menuButton_(new TitleBarButton(TitleBarButton::Sign::menu, QStringLiteral("menu"), this)),
-      xyzt_(new TitleBarButton(*controller.views().xyztButton, this)) {
+      menuButton_(new TitleBarButton(TitleBarButton::Sign::menu, QStringLiteral("menu"), this)) {
+    new TitleBarButton(*controller.views().xyztButton, this);
+    new TitleBarButton(*controller.views().statusButton, this);
     connect(keyPad_, &QAbstractButton::clicked, this,
             [&controller] { controller.takeShowKeyPadFrom(); });
     connect(menuButton_, &QAbstractButton::pressed, this,
@@ -102,7 +98,6 @@ void TitleBar::resizeEvent(QResizeEvent* /*event*/) {
     minimise_->setGeometry(kEdge + kStep, kButtonTop, kButtonSide, kButtonSide);
     keyPad_->setGeometry(kEdge + 2 * kStep, kButtonTop, kButtonSide, kButtonSide);
     menuButton_->setGeometry(kEdge + 3 * kStep, kButtonTop, kButtonSide, kButtonSide);
-    xyzt_->setGeometry(width() - kXyztFromRight, (height() - kIconSide) / 2, kIconSide, kIconSide);
 }
 
 void TitleBar::paintEvent(QPaintEvent* /*event*/) {

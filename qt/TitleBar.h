@@ -1,18 +1,18 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QWidget>
 #include <optional>
 
 #include "platform/NSButton.h"
 #include "platform/NSWindow.h"
+#include "qt/ControlButton.h"
 #include "qt/RecordObserver.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
 
 // A small button of the title bar: the window's own ones draw a sign, the others their image.
-class TitleBarButton final : public QAbstractButton {
+class TitleBarButton final : public ControlButton {
   public:
     enum class Sign { close, minimise, keyPad, menu };
 
@@ -48,7 +48,6 @@ class TitleBar final : public QWidget {
     TitleBarButton* minimise_;
     TitleBarButton* keyPad_;
     TitleBarButton* menuButton_;
-    TitleBarButton* xyzt_;
     std::optional<QPoint> dragStart_;  // of a drag that the desktop doesn't do for us
 };
 

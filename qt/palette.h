@@ -20,13 +20,20 @@ struct WindowColors {
     QColor border;
     QColor title;
     QColor focusRing;
+    QColor drawer;
     KeyColors number;
     KeyColors function;
     KeyColors operation;
     KeyColors shift;
+    KeyColors flat;
     KeyColors lit;
 
     [[nodiscard]] const KeyColors& key(KeyGroup group) const;
+    // Of a key that is on. What moves the window's parts lights up less than what changes the
+    // meaning of the next key.
+    [[nodiscard]] const KeyColors& litKey(KeyGroup group) const {
+        return group == KeyGroup::flat ? number : lit;
+    }
 };
 
 [[nodiscard]] const WindowColors& windowColors(const QPalette& palette);

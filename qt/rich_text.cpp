@@ -51,18 +51,22 @@ double offsetOf(const NSTextAttributes& attributes, double bodySize) {
                                         : 0.0;
 }
 
-}  // namespace
+// How much smaller the text has to be to fit.
+double fittingScale(const std::vector<Piece>& pieces, double width) {
+    constexpr double kSmallest = 0.6;
+    double scale = 1.0;
+    while (scale > kSmallest && widthOf(pieces, scale) > width) {
+        scale -= 0.05;
+    }
+    return scale;
+}
 
-void paintCentered(QPainter& painter, const QRectF& rect, const NSAttributedString& text) {
-    const std::vector<Piece> pieces = piecesOf(text);
+void paintPieces(QPainter& painter, const QRectF& rect, const std::vector<Piece>& pieces,
+                 NSTextAlignment alignment) {
     if (pieces.empty()) {
         return;
     }
-    constexpr double kSmallest = 0.6;
-    double scale = 1.0;
-    while (scale > kSmallest && widthOf(pieces, scale) > rect.width()) {
-        scale -= 0.05;
-    }
+    const double scale = fittingScale(pieces, rect.width());
     double bodySize = 0.0;
     for (const Piece& piece : pieces) {
         bodySize = std::max(bodySize, piece.attributes.font.size * scale);
@@ -71,13 +75,25 @@ void paintCentered(QPainter& painter, const QRectF& rect, const NSAttributedStri
     bodyFont.size = bodySize;
     const double capHeight = QFontMetricsF(toQFont(bodyFont)).capHeight();
     const double baseline = std::round(rect.center().y() + capHeight / 2.0);
-    double x = rect.center().x() - widthOf(pieces, scale) / 2.0;
+    double x = alignment == NSTextAlignment::left
+                   ? rect.left()
+                   : rect.center().x() - widthOf(pieces, scale) / 2.0;
     for (const Piece& piece : pieces) {
         const QFont font = fontOf(piece, scale);
         painter.setFont(font);
         painter.drawText(QPointF(x, baseline + offsetOf(piece.attributes, bodySize)), piece.text);
         x += QFontMetricsF(font).horizontalAdvance(piece.text);
     }
+}
+
+}  // namespace
+
+void paintCentered(QPainter& painter, const QRectF& rect, const NSAttributedString& text) {
+    paintPieces(painter, rect, piecesOf(text), NSTextAlignment::center);
+}
+
+void paintLeft(QPainter& painter, const QRectF& rect, const NSAttributedString& text) {
+    paintPieces(painter, rect, piecesOf(text), NSTextAlignment::left);
 }
 
 }  // namespace talvex

@@ -11,4 +11,7 @@ namespace talvex {
 // places, smaller than its fonts say if it doesn't fit otherwise.
 void paintCentered(QPainter& painter, const QRectF& rect, const NSAttributedString& text);
 
+// The same from the left side of the rectangle, in the painter's pen.
+void paintLeft(QPainter& painter, const QRectF& rect, const NSAttributedString& text);
+
 }  // namespace talvex

@@ -8,7 +8,11 @@
 namespace talvex {
 
 // The kinds of keys, which the screen sets apart by colour.
-enum class KeyGroup { digit, enter, operation, function, shift, memory, stack, clear };
+enum class KeyGroup { digit, enter, operation, function, shift, memory, stack, clear, flat };
+
+// What a key does when it is clicked: it runs a command, turns a modifier on or off, sets the lock
+// of the output mode, or moves a drawer. All but the first show whether they are on.
+enum class KeyClass { key, modifier, lock, drawer };
 
 // A button that shows a press in every way that it can.
 class ZUButton : public NSButton {

@@ -11,6 +11,7 @@
 #include "state/SavedState.h"
 #include "state/StateFile.h"
 #include "ui/DYXSettings.h"
+#include "ui/Drawers.h"
 #include "ui/WindowViews.h"
 #include "ui/window_layout.h"
 
@@ -19,14 +20,19 @@ namespace talvex {
 // The calculator with its window: takes keys, clicks and choices, and shows the calculator's state
 // on the records of the window. What the window looks like is the business of those who draw the
 // records.
-class DYXWindowController final : public DYXCalculator, public NSResponder {
+class DYXWindowController final : public DYXCalculator,
+                                  public NSResponder,
+                                  public NSDrawerDelegate,
+                                  public DYXStatusLineProtocol {
   public:
     explicit DYXWindowController(Platform& platform);
 
     [[nodiscard]] WindowViews& views() { return *views_; }
     [[nodiscard]] const WindowLayout& layout() const { return layout_; }
     [[nodiscard]] const DYXSettings& settings() const { return settings_; }
-    [[nodiscard]] const HotKeys& hotKeys() const { return hotKeys_; }
+    [[nodiscard]] const HotKeys& hotKeys() const { return *hotKeys_; }
+    [[nodiscard]] Drawers& drawers() { return drawers_; }
+    [[nodiscard]] const Drawers& drawers() const { return drawers_; }
 
     // Keys. A key without a row answers false; one without a character is dropped.
     bool keyDown(const NSEvent& event) override;
@@ -67,10 +73,33 @@ class DYXWindowController final : public DYXCalculator, public NSResponder {
     void takeHPStylePowerAndLogsFrom(std::optional<bool> useHPStyle);
     void takeHPStylePowerAndLogsFrom(const NSMenuItem& item);
 
-    // Shows or hides the lines Y, Z and T; the top left corner of the window stays.
+    // The layout of the window, in window_geometry.cpp; its top left corner stays. Open drawers
+    // close ahead of the key pad, and come back with it.
     void takeShowYZTRegistersFrom();
-    // Hides the key pad, or shows it again.
+    void takeShowStatusLineFrom();
     void takeShowKeyPadFrom();
+    // Sets the window to the size of its layout.
+    void resizeWindow();
+    void windowDidResize() override;
+    // Brings the top left corner to a place of the screen, and takes the layout.
+    void setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(const NSPoint& location,
+                                                                    bool keyPadHidden,
+                                                                    std::int32_t displayViewMode,
+                                                                    bool statusLine);
+
+    // The drawers, in drawer_actions.cpp. None opens while the key pad is hidden.
+    void takeToggleMemoryDrawerFrom();
+    void takeToggleConstantsDrawerFrom();
+    void takeToggleConversionDrawerFrom();
+    void takeToggleFunctionsDrawerFrom();
+    void toggleDrawer(NSDrawer& drawer);
+    NSSize drawerWillResizeContentsToSize(NSDrawer& drawer, const NSSize& size) override;
+    void drawerDidClose(NSDrawer& drawer) override;
+    void drawerStateDidChange(NSDrawer& drawer) override;
+
+    // The value of a memory register, and the exponent that a key enters.
+    [[nodiscard]] std::optional<NSAttributedString> statusLineForView(
+        const NSView& view) const override;
 
     void setDigitGroupingSeparatorMode(std::int32_t mode);
     void setDigitGroupingDigitsMode(std::int32_t mode);
@@ -116,25 +145,33 @@ class DYXWindowController final : public DYXCalculator, public NSResponder {
     void updateLabels();
 
   private:
-    DYXWindowController(Platform& platform, std::unique_ptr<WindowViews> views);
+    DYXWindowController(Platform& platform, std::unique_ptr<HotKeys> hotKeys);
+    DYXWindowController(Platform& platform, std::unique_ptr<WindowViews> views,
+                        std::unique_ptr<HotKeys>& hotKeys);
 
     void updateControls() override;
     void connectControls();
-    void resizeWindow();
+    void connectDrawers();
     void followModes();
     void followLine();
     void setUnlocked(bool isUnlocked);
     void applyState(const SavedState& state);
-    void setUpWindow(const NSRect& frame, bool keyPadHidden, std::int32_t displayViewMode);
-    void setKeyPadHidden(bool hidden);
+    void openDrawers(const SavedState& state);
+    void setShowStatusLine(bool show);
+    void finishHidingKeyPad();
+    void closeDrawersForKeyPad();
+    void showStatusLines();
+    void trackKeyPad();
+    [[nodiscard]] std::array<DYXStatusLineView*, 4> statusLineViews() const;
     [[nodiscard]] SavedState presentState() const;
     [[nodiscard]] HotKeyState hotKeyState() const;
     [[nodiscard]] std::array<DYXOutputDisplay*, 5> lines();
 
+    std::unique_ptr<HotKeys> hotKeys_;
     std::unique_ptr<WindowViews> views_;
+    Drawers drawers_;
     WindowLayout layout_;
     DYXSettings settings_;
-    HotKeys hotKeys_;
     StateFile stateFile_;
     SavedState remembered_;  // of the file, what no part of the window holds
 };

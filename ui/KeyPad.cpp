@@ -6,34 +6,46 @@
 #include "ui/window_layout.h"
 
 namespace talvex {
+namespace {
 
-KeyPad::KeyPad(LogPort& log) : view_(std::make_shared<NSView>(keyPadViewRect())) {
-    view_->setAutoresizingMask(NSViewMinYMargin);
+constexpr double kStatusFontSize = 10.0;
+
+}  // namespace
+
+KeyPad::KeyPad(LogPort& log)
+    : panel_{.view = std::make_shared<DYXStatusLineView>(keyPadViewRect()), .keys = {}} {
+    view()->setAutoresizingMask(NSViewMinYMargin);
+    auto status = std::make_shared<NSTextField>(statusLineFieldRect());
+    status->setFont({.name = u"Lucida Grande", .size = kStatusFontSize});
+    view()->addSubview(status);
+    view()->setStatusField(status);
     for (const KeyRow& row : keyPadRows()) {
-        buttons_.push_back(makeButton(row, log));
-        view_->addSubview(buttons_.back());
+        panel_.keys.push_back(makeKey({.frame = keyFrame(row),
+                                       .command = row.command,
+                                       .title = row.title,
+                                       .hint = std::u16string(row.hint),
+                                       .group = row.group,
+                                       .keyClass = row.keyClass},
+                                      log));
+    }
+    for (const DrawerKeyRow& row : drawerKeyRows()) {
+        panel_.keys.push_back(makeKey({.frame = drawerKeyFrame(drawerButtons_.size()),
+                                       .command = {},
+                                       .title = row.title,
+                                       .hint = std::u16string(row.hint),
+                                       .group = KeyGroup::flat,
+                                       .keyClass = KeyClass::drawer},
+                                      log));
+        drawerButtons_.push_back(panel_.keys.back().button);
+    }
+    for (const Key& key : keys()) {
+        key.button->setAutoresizingMask(NSViewMinYMargin);
+        view()->addSubview(key.button);
     }
     const auto hexKeys = hexKeyRows();
     std::transform(hexKeys.begin(), hexKeys.end(), hexButtons_.begin(),
                    [this](const HexKeyRow& row) { return &button(row.command); });
     showHexDigits(false);
-}
-
-std::shared_ptr<NSButton> KeyPad::makeButton(const KeyRow& row, LogPort& log) const {
-    const std::u16string title(row.title);
-    std::shared_ptr<NSButton> button;
-    if (row.keyClass == KeyClass::key) {
-        button = std::make_shared<DYXButton>(keyFrame(row), title, log);
-    } else {
-        button = std::make_shared<ZUModifierButton>(keyFrame(row));
-        button->setTitle(title);
-        button->setToggles(row.keyClass == KeyClass::lock);
-    }
-    button->setAlternateTitle(std::u16string(row.command));
-    button->setToolTip(std::u16string(row.hint));
-    button->setAccessibilityLabel(std::u16string(row.hint));
-    button->setAutoresizingMask(NSViewMinYMargin);
-    return button;
 }
 
 NSButton& KeyPad::button(std::u16string_view command) const {
@@ -42,20 +54,22 @@ NSButton& KeyPad::button(std::u16string_view command) const {
         return candidate.command == command;
     });
     assert(row != rows.end());
-    return *buttons_.at(static_cast<std::size_t>(row - rows.begin()));
+    return *keys().at(static_cast<std::size_t>(row - rows.begin())).button;
 }
 
 void KeyPad::setKeyAction(const std::function<void(NSButton&)>& action) {
-    const auto rows = keyPadRows();
-    for (std::size_t index = 0; index < buttons_.size(); ++index) {
-        if (rows[index].keyClass != KeyClass::lock) {
-            buttons_[index]->setAction(action);
-        }
-        buttons_[index]->setKeyEquivalent(u"");
+    panel_.setKeyAction(action);
+    lockButton().setAction({});
+    for (const auto& button : drawerButtons_) {
+        button->setAction({});
     }
 }
 
-void KeyPad::showHexDigits(bool show) {
+bool KeyPad::showHexDigits(bool show) {
+    if (show == showsHexDigits_) {
+        return false;
+    }
+    showsHexDigits_ = show;
     const auto rows = hexKeyRows();
     for (std::size_t index = 0; index < hexButtons_.size(); ++index) {
         const HexKeyRow& row = rows[index];
@@ -68,6 +82,7 @@ void KeyPad::showHexDigits(bool show) {
         button.setToolTip(std::u16string(show ? row.hexHint : row.hint));
         button.setAccessibilityLabel(std::u16string(show ? row.hexHint : row.hint));
     }
+    return true;
 }
 
 }  // namespace talvex

@@ -8,36 +8,41 @@
 
 #include "platform/Platform.h"
 #include "ui/DYXButton.h"
-#include "ui/DYXView.h"
+#include "ui/DYXStatusLineView.h"
+#include "ui/Panel.h"
 #include "ui/key_pad_table.h"
 
 namespace talvex {
 
-// The key pad's view with its buttons, one for each row of the table and in its order.
+// The key pad's view with its buttons, one for each row of the table and in its order, the keys of
+// the drawers, and the status line below.
 class KeyPad {
   public:
     explicit KeyPad(LogPort& log);
 
-    [[nodiscard]] const std::shared_ptr<NSView>& view() const { return view_; }
-    [[nodiscard]] const std::vector<std::shared_ptr<NSButton>>& buttons() const { return buttons_; }
+    [[nodiscard]] const std::shared_ptr<DYXStatusLineView>& view() const { return panel_.view; }
+    [[nodiscard]] const std::vector<Key>& keys() const { return panel_.keys; }
     // The button that stood for the command when the key pad was made.
     [[nodiscard]] NSButton& button(std::u16string_view command) const;
     // The six keys of the letters A to F.
     [[nodiscard]] const std::array<NSButton*, 6>& hexButtons() const { return hexButtons_; }
     [[nodiscard]] NSButton& lockButton() const { return button(u"lock"); }
+    // In the order of their table.
+    [[nodiscard]] const std::vector<std::shared_ptr<NSButton>>& drawerButtons() const {
+        return drawerButtons_;
+    }
 
-    // What a click on a command key does; the lock has an action of its own.
+    // What a click on a command key does; the lock and the drawers have actions of their own.
     void setKeyAction(const std::function<void(NSButton&)>& action);
 
-    // Gives the six keys their letters, or their exponents.
-    void showHexDigits(bool show);
+    // Gives the six keys their letters, or their exponents. Whether that changes anything.
+    bool showHexDigits(bool show);
 
   private:
-    [[nodiscard]] std::shared_ptr<NSButton> makeButton(const KeyRow& row, LogPort& log) const;
-
-    std::shared_ptr<NSView> view_;
-    std::vector<std::shared_ptr<NSButton>> buttons_;
+    Panel panel_;
     std::array<NSButton*, 6> hexButtons_{};
+    std::vector<std::shared_ptr<NSButton>> drawerButtons_;
+    bool showsHexDigits_ = true;
 };
 
 }  // namespace talvex

@@ -46,11 +46,19 @@ std::shared_ptr<NSPopUpButton> makePopUp(NSView& superview, const NSRect& frame,
     return popUp;
 }
 
-std::shared_ptr<NSButton> makeTitleBarButton(const std::u16string& image,
+// A place in the title bar, which keeps its distance from the upper right corner.
+constexpr double kTitleBarButtonSide = 13.0;
+constexpr double kTitleBarButtonTop = 18.0;
+
+std::shared_ptr<NSButton> makeTitleBarButton(double fromRight, const std::u16string& image,
                                              const std::u16string& alternateImage,
                                              std::u16string accessibilityLabel) {
-    constexpr double kSide = 13.0;
-    auto button = std::make_shared<NSButton>(NSRect{.width = kSide, .height = kSide});
+    const NSRect window = NSWindow::frameRectForContentRect(contentFrame({}));
+    auto button = std::make_shared<NSButton>(NSRect{.x = window.width - fromRight,
+                                                    .y = window.height - kTitleBarButtonTop,
+                                                    .width = kTitleBarButtonSide,
+                                                    .height = kTitleBarButtonSide});
+    button->setAutoresizingMask(NSViewMinXMargin | NSViewMinYMargin);
     button->setImage(image);
     button->setAlternateImage(alternateImage);
     button->setImagePosition(NSImagePosition::imageOnly);
@@ -61,22 +69,43 @@ std::shared_ptr<NSButton> makeTitleBarButton(const std::u16string& image,
 
 }  // namespace
 
-WindowViews::WindowViews(LogPort& log)
+WindowViews::WindowViews(LogPort& log, const HotKeys& hotKeys)
     : contentView(std::make_shared<DYXView>(contentFrame({}))),
       displayView(std::make_shared<DYXDisplayView>(displayViewRect())),
       xFields(makeFields(*displayView)),
       inputModePopUp(makePopUp(*displayView, inputModePopUpRect(), u"inp", u"input mode")),
       outputModePopUp(makePopUp(*displayView, outputModePopUpRect(), u"out", u"output mode")),
       angleModePopUp(makePopUp(*displayView, angleModePopUpRect(), u"ang", u"angle mode")),
-      xyztButton(makeTitleBarButton(u"xyztOn", u"xyztOff", u"show the registers Y, Z and T")),
-      keyPad(log) {
+      xyztButton(makeTitleBarButton(25.0, u"xyztOn", u"xyztOff", u"show the registers Y, Z and T")),
+      statusButton(makeTitleBarButton(44.0, u"statusOn", u"statusOff", u"show the status line")),
+      keyPad(log),
+      memoryPanel(makeMemoryPanel(log)),
+      constantsPanel(makeConstantsPanel(log)),
+      functionsPanel(makeFunctionsPanel(log)),
+      conversionPanel(makeConversionPanel(log, hotKeys)) {
     displayView->setAutoresizingMask(NSViewWidthSizable | NSViewMinYMargin);
     contentView->addSubview(displayView);
     contentView->addSubview(keyPad.view());
     window.setTitle(u"Talvex");
     window.setContentView(contentView);
     window.setFrame(NSWindow::frameRectForContentRect(contentFrame({})));
+    window.frameView().addSubview(xyztButton);
+    window.frameView().addSubview(statusButton);
     window.makeFirstResponder(displayView.get());
+}
+
+std::vector<Key> WindowViews::allKeys() const {
+    std::vector<Key> all = keyPad.keys();
+    const auto append = [&all](const std::vector<Key>& keys) {
+        all.insert(all.end(), keys.begin(), keys.end());
+    };
+    append(memoryPanel.keys);
+    append(constantsPanel.keys);
+    append(functionsPanel.keys);
+    for (const std::vector<Key>& page : conversionPanel.pages) {
+        append(page);
+    }
+    return all;
 }
 
 }  // namespace talvex

@@ -7,12 +7,17 @@
 #include "platform/NSWindow.h"
 #include "ui/DYXView.h"
 #include "ui/KeyPad.h"
+#include "ui/Panel.h"
 
 namespace talvex {
 
 // The records of the calculator window and of everything in it, in the layout that it starts with.
 struct WindowViews {
-    explicit WindowViews(LogPort& log);
+    // The hot keys have to outlive the views.
+    WindowViews(LogPort& log, const HotKeys& hotKeys);
+
+    // Of the key pad and of all drawers.
+    [[nodiscard]] std::vector<Key> allKeys() const;
 
     NSWindow window;
     std::shared_ptr<DYXView> contentView;
@@ -21,9 +26,14 @@ struct WindowViews {
     std::shared_ptr<NSPopUpButton> inputModePopUp;
     std::shared_ptr<NSPopUpButton> outputModePopUp;
     std::shared_ptr<NSPopUpButton> angleModePopUp;
-    std::shared_ptr<NSButton> xyztButton;  // stands in the title bar
-    NSMenu menu;                           // opened by a button and by the right mouse button
+    std::shared_ptr<NSButton> xyztButton;  // stand in the title bar
+    std::shared_ptr<NSButton> statusButton;
+    NSMenu menu;  // opened by a button and by the right mouse button
     KeyPad keyPad;
+    Panel memoryPanel;
+    Panel constantsPanel;
+    Panel functionsPanel;
+    ConversionPanel conversionPanel;
 };
 
 }  // namespace talvex

@@ -1,23 +1,47 @@
 // What shows the calculator's state besides its lines. These operations only write to controls.
 
+#include <algorithm>
+
 #include "display/display_modes.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
 namespace {
 
-struct StoreKey {
-    std::int32_t store;
+struct ModifierKey {
     std::u16string_view command;
+    bool (*isOn)(const DYXCalculator&);
 };
 
-constexpr std::array<StoreKey, 5> kStoreKeys{{
-    {1, u"memoSTO "},
-    {2, u"memoSTO+"},
-    {3, u"memoSTO-"},
-    {4, u"memoSTO*"},
-    {5, u"memoSTO/"},
+template <std::int32_t Store>
+bool isArmed(const DYXCalculator& calculator) {
+    return calculator.store() == Store;
+}
+
+constexpr std::array<ModifierKey, 8> kModifierKeys{{
+    {u"modiARC ", [](const DYXCalculator& calculator) { return calculator.inverse; }},
+    {u"modiHYP ", [](const DYXCalculator& calculator) { return calculator.hyperbolic; }},
+    {u"memoRCL ", [](const DYXCalculator& calculator) { return calculator.recall(); }},
+    {u"memoSTO ", isArmed<1>},
+    {u"memoSTO+", isArmed<2>},
+    {u"memoSTO-", isArmed<3>},
+    {u"memoSTO*", isArmed<4>},
+    {u"memoSTO/", isArmed<5>},
 }};
+
+void showModifiers(const std::vector<Key>& keys, const DYXCalculator& calculator) {
+    for (const Key& key : keys) {
+        if (key.button->showsStateBy() == NSNoCellMask) {
+            continue;
+        }
+        const auto* const modifier = std::find_if(
+            kModifierKeys.begin(), kModifierKeys.end(),
+            [&key](const ModifierKey& row) { return row.command == key.button->alternateTitle(); });
+        if (modifier != kModifierKeys.end()) {
+            key.button->setState(modifier->isOn(calculator) ? 1 : 0);
+        }
+    }
+}
 
 }  // namespace
 
@@ -45,7 +69,12 @@ void DYXWindowController::updateLock() {
 }
 
 void DYXWindowController::updateButtons() {
-    views_->keyPad.showHexDigits(xDisplay().inputMode() == mode::HEX);
+    if (!views_->keyPad.showHexDigits(xDisplay().inputMode() == mode::HEX)) {
+        return;
+    }
+    for (NSButton* const button : views_->keyPad.hexButtons()) {
+        views_->keyPad.view()->renewStatusLine(*button, *hotKeys_);
+    }
 }
 
 void DYXWindowController::updateLabels() {
@@ -57,13 +86,8 @@ void DYXWindowController::updateLabels() {
 }
 
 void DYXWindowController::updateModifiers() {
-    const KeyPad& keyPad = views_->keyPad;
-    keyPad.button(u"modiARC ").setState(inverse ? 1 : 0);
-    keyPad.button(u"modiHYP ").setState(hyperbolic ? 1 : 0);
-    keyPad.button(u"memoRCL ").setState(recall() ? 1 : 0);
-    for (const StoreKey& key : kStoreKeys) {
-        keyPad.button(key.command).setState(store() == key.store ? 1 : 0);
-    }
+    showModifiers(views_->keyPad.keys(), *this);
+    showModifiers(views_->memoryPanel.keys, *this);
 }
 
 }  // namespace talvex

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "ui/Panel.h"
+
 namespace talvex {
 namespace {
 
@@ -104,11 +106,20 @@ constexpr std::array<HexKeyRow, 6> kHexKeys{{
     {u"dataN00F", u"F", u"F", u"dataE+09", u"exponent 9", u"EEX+9Small", u"EEX+9Pressed"},
 }};
 
+// From left to right as the drawers lie.
+constexpr std::array<DrawerKeyRow, 4> kDrawerKeys{{
+    {DrawerName::constants, u"\u25C2 constants", u"open or close the drawer of constants"},
+    {DrawerName::conversion, u"\u25B4 units", u"open or close the drawer of unit conversions"},
+    {DrawerName::functions, u"\u25BE functions", u"open or close the drawer of more functions"},
+    {DrawerName::memory, u"memory \u25B8", u"open or close the drawer of memory registers"},
+}};
+
 constexpr double kKeyWidth = 36.0;
-constexpr double kKeyHeight = 23.0;
-constexpr double kGap = 3.0;
+constexpr double kGap = kKeyGap;
 constexpr double kLeft = 7.0;
-constexpr double kBottom = 8.0;
+constexpr double kDrawerKeyHeight = 13.0;
+constexpr double kDrawerKeysBottom = 4.0;
+constexpr double kBottom = kDrawerKeysBottom + kDrawerKeyHeight + kGap;
 // A little more room between the functions and the number keys.
 constexpr int kFirstNumberColumn = 5;
 constexpr double kGroupGap = 3.0;
@@ -117,6 +128,17 @@ constexpr double kGroupGap = 3.0;
 
 std::span<const KeyRow> keyPadRows() { return kKeys; }
 std::span<const HexKeyRow> hexKeyRows() { return kHexKeys; }
+
+std::span<const DrawerKeyRow> drawerKeyRows() { return kDrawerKeys; }
+
+NSRect drawerKeyFrame(std::size_t place) {
+    constexpr double kAllKeys = kColumns * (kKeyWidth + kGap) - kGap + kGroupGap;
+    constexpr double kPitch = (kAllKeys + kGap) / kDrawerKeys.size();
+    return {.x = kLeft + static_cast<double>(place) * kPitch,
+            .y = kDrawerKeysBottom,
+            .width = kPitch - kGap,
+            .height = kDrawerKeyHeight};
+}
 
 NSRect keyFrame(const KeyRow& key) {
     const int rowsBelow = kRows - key.row - key.rowSpan;

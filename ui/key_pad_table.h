@@ -6,10 +6,9 @@
 
 #include "platform/NSGeometry.h"
 #include "ui/DYXButton.h"
+#include "ui/Drawers.h"
 
 namespace talvex {
-
-enum class KeyClass { key, modifier, lock };
 
 // Everything about a key of the key pad. Rows and columns count from the top left.
 struct KeyRow {
@@ -27,6 +26,16 @@ struct KeyRow {
 
 // The place of a key within the key pad, in points.
 [[nodiscard]] NSRect keyFrame(const KeyRow& key);
+
+// The flat keys below all others: each opens and closes a drawer.
+struct DrawerKeyRow {
+    DrawerName drawer;
+    std::u16string_view title;
+    std::u16string_view hint;
+};
+
+[[nodiscard]] std::span<const DrawerKeyRow> drawerKeyRows();
+[[nodiscard]] NSRect drawerKeyFrame(std::size_t place);
 
 // What the six keys on the top right do, which carry the letters of HEX input or exponents.
 struct HexKeyRow {

@@ -111,7 +111,7 @@ void DYXWindowController::fixDecimalSeparator() {
                                                : u"");
     decimalButton.setImagePosition(hasImage ? NSImagePosition::imageOnly
                                             : NSImagePosition::noImage);
-    hotKeys_.followDecimalSeparator(separator);
+    hotKeys_->followDecimalSeparator(separator);
     // The groups' separator has to differ from it.
     updateDigitGrouping();
     syncDisplays();

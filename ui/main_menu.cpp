@@ -170,6 +170,14 @@ NSMenu viewMenu(Controller& controller) {
         alternatingItem(
             commandItem(controller, u"", [](Controller& now) { now.takeShowYZTRegistersFrom(); }),
             controller, showsFourLines, u"Hide YZT Registers", u"Show YZT Registers"),
+        alternatingItem(
+            commandItem(controller, u"", [](Controller& now) { now.takeShowKeyPadFrom(); }),
+            controller, [](const Controller& now) { return now.layout().keyPadHidden; },
+            u"Show Key Pad", u"Hide Key Pad"),
+        alternatingItem(
+            commandItem(controller, u"", [](Controller& now) { now.takeShowStatusLineFrom(); }),
+            controller, [](const Controller& now) { return now.layout().showStatusLine; },
+            u"Hide Status Line", u"Show Status Line"),
         separator(),
         switchItem(controller, u"Hide Register Labels", &Controller::takeRegisterLabelsHiddenFrom,
                    [](const Controller& now) { return now.settings().registerLabelsHidden; }),
@@ -183,19 +191,35 @@ NSMenu viewMenu(Controller& controller) {
     return menu;
 }
 
-// An item of something that the window doesn't have yet.
-NSMenuItem absentItem(std::u16string_view title) {
-    NSMenuItem item;
-    item.title = title;
-    item.enabled = false;
-    return item;
-}
+struct DrawerItem {
+    std::u16string_view title;
+    DrawerName drawer;
+    void (*toggle)(Controller&);
+};
 
-NSMenu drawersMenu() {
+constexpr std::array<DrawerItem, 4> kDrawerItems{{
+    {u"Memory", DrawerName::memory, [](Controller& now) { now.takeToggleMemoryDrawerFrom(); }},
+    {u"Constants", DrawerName::constants,
+     [](Controller& now) { now.takeToggleConstantsDrawerFrom(); }},
+    {u"Unit Conversions", DrawerName::conversion,
+     [](Controller& now) { now.takeToggleConversionDrawerFrom(); }},
+    {u"Functions", DrawerName::functions,
+     [](Controller& now) { now.takeToggleFunctionsDrawerFrom(); }},
+}};
+
+// Without the key pad no drawer opens, and the items show which would come back with it.
+NSMenu drawersMenu(Controller& controller) {
     NSMenu menu;
-    for (const std::u16string_view title :
-         {u"Memory Drawer", u"Constants Drawer", u"Conversion Drawer", u"Functions Drawer"}) {
-        menu.items.push_back(absentItem(title));
+    for (const DrawerItem& row : kDrawerItems) {
+        NSMenuItem item = commandItem(controller, row.title, row.toggle);
+        item.validation = [&controller, name = row.drawer](NSMenuItem& shown) {
+            const Drawer& drawer = controller.drawers()[name];
+            const bool isHidden = controller.layout().keyPadHidden;
+            const bool isOpen = drawer.record.state() == NSDrawerOpenState;
+            shown.state = (isHidden ? drawer.wasOpen : isOpen) ? 1 : 0;
+            shown.enabled = !isHidden;
+        };
+        menu.items.push_back(std::move(item));
     }
     return menu;
 }
@@ -249,7 +273,7 @@ NSMenu mainMenu(Controller& controller) {
         submenu(u"Digits", digitsMenu(controller)),
         submenu(u"Format", formatMenu(controller)),
         submenu(u"View", viewMenu(controller)),
-        submenu(u"Drawers", drawersMenu()),
+        submenu(u"Drawers", drawersMenu(controller)),
         separator(),
         commandItem(controller, u"Save", [](Controller& now) { now.saveDocument(); }),
         commandItem(controller, u"Revert to Saved",

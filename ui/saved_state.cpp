@@ -5,6 +5,22 @@
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
+namespace {
+
+struct SavedDrawer {
+    DrawerName name;
+    bool SavedState::*wasOpen;
+    std::int32_t SavedState::*state;
+};
+
+constexpr std::array<SavedDrawer, 4> kSavedDrawers{{
+    {DrawerName::memory, &SavedState::memoryWasOpen, &SavedState::memoryDrawerState},
+    {DrawerName::constants, &SavedState::constantsWasOpen, &SavedState::constantsDrawerState},
+    {DrawerName::conversion, &SavedState::conversionWasOpen, &SavedState::conversionDrawerState},
+    {DrawerName::functions, &SavedState::functionsWasOpen, &SavedState::functionsDrawerState},
+}};
+
+}  // namespace
 
 SavedState DYXWindowController::presentState() const {
     SavedState state = remembered_;
@@ -34,6 +50,13 @@ SavedState DYXWindowController::presentState() const {
     state.fontMode = settings_.fontMode;
     state.keyPadHidden = layout_.keyPadHidden;
     state.displayViewMode = layout_.displayViewMode;
+    state.showStatusLine = layout_.showStatusLine;
+    for (const SavedDrawer& saved : kSavedDrawers) {
+        const Drawer& drawer = drawers_[saved.name];
+        state.*saved.wasOpen = drawer.wasOpen;
+        state.*saved.state = drawer.record.state();
+    }
+    state.conversionTabSelection = views_->conversionPanel.tabView->indexOfSelectedItem();
     state.calculatorFrame = views_->window.frame();
     return state;
 }
@@ -62,8 +85,25 @@ void DYXWindowController::applyState(const SavedState& state) {
     setFontMode(state.fontMode);
     setDigitGroupingSeparatorMode(state.digitGroupingSeparatorMode);
     setDigitGroupingDigitsMode(state.digitGroupingDigitsMode);
-    if (state.calculatorFrame) {
-        setUpWindow(*state.calculatorFrame, state.keyPadHidden, state.displayViewMode);
+    for (const SavedDrawer& saved : kSavedDrawers) {
+        drawers_[saved.name].wasOpen = state.*saved.wasOpen;
+    }
+    if (const auto& frame = state.calculatorFrame) {
+        setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(
+            {frame->x, frame->y + frame->height}, state.keyPadHidden, state.displayViewMode,
+            state.showStatusLine);
+    }
+    openDrawers(state);
+    views_->conversionPanel.tabView->selectTabViewItemAtIndex(state.conversionTabSelection);
+}
+
+void DYXWindowController::openDrawers(const SavedState& state) {
+    for (const SavedDrawer& saved : kSavedDrawers) {
+        NSDrawer& drawer = drawers_[saved.name].record;
+        const std::int32_t drawerState = state.*saved.state;
+        if (drawerState == NSDrawerOpeningState || drawerState == NSDrawerOpenState) {
+            drawer.openOnEdge(drawer.preferredEdge());
+        }
     }
 }
 

@@ -143,10 +143,6 @@ void DYXWindowController::takeWindowSizingAnimationFrom(const NSMenuItem& item) 
     settings_.animateWindow = turnedOver(item);
 }
 
-void DYXWindowController::takeStatusLinesEnabledFrom(const NSMenuItem& item) {
-    settings_.statusLinesEnabled = turnedOver(item);
-}
-
 void DYXWindowController::takeHPStylePowerAndLogsFrom(const NSMenuItem& item) {
     takeHPStylePowerAndLogsFrom(std::optional(turnedOver(item)));
 }

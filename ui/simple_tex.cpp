@@ -7,7 +7,6 @@ namespace talvex {
 namespace {
 
 constexpr double kSmallFontScale = 0.75;
-constexpr double kToolTipSize = 10.0;
 
 enum class Backslash { isOrdinary, protects };
 
@@ -88,7 +87,8 @@ NSAttributedString simpleTexTitle(std::u16string_view text, const NSFont& font) 
 }
 
 NSAttributedString ZUStringExtensions::simpleTexSingleLine(std::u16string_view text) {
-    NSTextAttributes body{.font = {.name = u"Lucida Grande", .size = kToolTipSize}};
+    NSTextAttributes body{
+        .font = {.name = u"Lucida Grande", .size = ZUStringExtensions::kToolTipSize}};
     Reader reader(text, body, Backslash::protects);
     NSAttributedString result = reader.read();
     if (!reader.metSuperscript()) {

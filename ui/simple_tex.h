@@ -13,6 +13,9 @@ NSAttributedString simpleTexTitle(std::u16string_view text, const NSFont& font);
 
 namespace ZUStringExtensions {
 
+// The size of the font of tool tips.
+inline constexpr double kToolTipSize = 10.0;
+
 // The form of status texts: left, in the small font of tool tips. A backslash protects the next
 // character, and "\n" gives two blanks. A text without "^" ends in a small raised blank, so that
 // all status texts are of one height.

@@ -7,6 +7,10 @@ constexpr double kDisplayMargin = 5.0;
 constexpr double kDisplayHeight = 41.0;
 constexpr double kDisplayTopMargin = 2.0;
 
+// Where a window goes that has no screen, or that is larger than the screen.
+constexpr double kNowhere = 64.0;
+constexpr double kTooLarge = 40.0;
+
 }  // namespace
 
 NSRect contentFrame(const WindowLayout& layout) {
@@ -16,6 +20,32 @@ NSRect contentFrame(const WindowLayout& layout) {
     }
     const double height = showsFourLines ? 271.0 : 211.0;
     return {.width = 404, .height = layout.showStatusLine ? height + 17.0 : height};
+}
+
+NSRect leftRectOnScreen(std::span<const NSRect> screens, const NSRect& rect) {
+    if (screens.empty()) {
+        return {.x = kNowhere, .y = kNowhere, .width = rect.width, .height = rect.height};
+    }
+    const NSRect& visible = screens.front();
+    return {.x = visible.x, .y = visible.y, .width = rect.width, .height = visible.height};
+}
+
+NSRect centerRectOnScreen(std::span<const NSRect> screens, const NSRect& rect) {
+    NSRect centered = rect;
+    if (screens.empty()) {
+        centered.x = kNowhere;
+        centered.y = kNowhere;
+        return centered;
+    }
+    const NSRect& visible = screens.front();
+    if (rect.width > visible.width || rect.height > visible.height) {
+        centered.x = kTooLarge;
+        centered.y = rect.height - kTooLarge;
+        return centered;
+    }
+    centered.x = visible.width * 0.5 + visible.x - rect.width * 0.5;
+    centered.y = visible.height * 0.5 + visible.y - rect.height * 0.5;
+    return centered;
 }
 
 NSRect statusLineFieldRect() { return {5, -21, 393, 22}; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "platform/NSGeometry.h"
 
@@ -16,6 +17,12 @@ struct WindowLayout {
 
 // The content rectangle of a layout, origin 0, 0.
 [[nodiscard]] NSRect contentFrame(const WindowLayout& layout);
+
+// The rectangle's size at the left edge of the first screen and as high as the screen; or in the
+// middle of the first screen. At a fixed place where there are no screens, given as what can be
+// used of each.
+[[nodiscard]] NSRect leftRectOnScreen(std::span<const NSRect> screens, const NSRect& rect);
+[[nodiscard]] NSRect centerRectOnScreen(std::span<const NSRect> screens, const NSRect& rect);
 
 // The places of the display's parts within it, and of the status line below the key pad.
 [[nodiscard]] NSRect statusLineFieldRect();

@@ -1,0 +1,102 @@
+#include "qt/BodyWidget.h"
+
+#include <QPainter>
+#include <utility>
+
+#include "qt/DisplayWidget.h"
+#include "qt/FocusWalk.h"
+#include "qt/PanelWidget.h"
+#include "qt/TitleBar.h"
+#include "qt/palette.h"
+
+namespace talvex {
+namespace {
+
+constexpr int kMotionMilliseconds = 160;
+constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
+
+QSize sizeOf(const NSRect& frame) {
+    return {static_cast<int>(frame.width), static_cast<int>(frame.height)};
+}
+
+}  // namespace
+
+BodyWidget::BodyWidget(DYXWindowController& controller, std::function<void()> didResize,
+                       QWidget* parent)
+    : QWidget(parent),
+      controller_(controller),
+      didResize_(std::move(didResize)),
+      titleBar_(new TitleBar(controller, this)),
+      content_(new QWidget(this)),
+      stillPicture_(new QLabel(this)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    auto* const display = new DisplayWidget(controller, content_);
+    KeyPad& keyPad = controller.views().keyPad;
+    auto* const keys = new PanelWidget(*keyPad.view(), keyPad.keys(), content_);
+    new StatusFieldWidget(*keyPad.view()->statusField(), content_,
+                          controller.views().contentView.get());
+    for (QWidget* const area :
+         {static_cast<QWidget*>(keys), static_cast<QWidget*>(display), titleBar_}) {
+        FocusWalk::markArea(*area);
+    }
+    titleBar_->raise();
+    stillPicture_->hide();
+    motion_.setDuration(kMotionMilliseconds);
+    motion_.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&motion_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& size) { setBodySize(size.toSize()); });
+    connect(&motion_, &QVariantAnimation::finished, this, [this] { stillPicture_->hide(); });
+    followRecord();
+}
+
+void BodyWidget::prepareMotion() {
+    if (isVisible()) {
+        picture_ = content_->grab();
+    }
+}
+
+void BodyWidget::followRecord() {
+    const QSize size = sizeOf(controller_.views().window.frame());
+    content_->resize(size - QSize(0, kBar));
+    controller_.views().keyPad.view()->statusField()->setNeedsDisplay();
+    const double displayHeight = controller_.views().displayView->frame().height;
+    // The display grows upward, and everything below it moves with the lower edge of the window.
+    movesWithLowerEdge_ = displayHeight != std::exchange(displayHeight_, displayHeight);
+    const QPixmap picture = std::exchange(picture_, {});
+    if (size == this->size() ||
+        (motion_.state() == QAbstractAnimation::Running && motion_.endValue().toSize() == size)) {
+        return;
+    }
+    motion_.stop();
+    if (picture.isNull()) {
+        stillPicture_->hide();
+        setBodySize(size);
+        return;
+    }
+    const bool shrinks = size.height() < height() || size.width() < width();
+    stillPicture_->setPixmap(picture);
+    stillPicture_->resize(picture.deviceIndependentSize().toSize());
+    stillPicture_->setVisible(shrinks);
+    stillPicture_->stackUnder(titleBar_);
+    motion_.setStartValue(this->size());
+    motion_.setEndValue(size);
+    motion_.start();
+}
+
+void BodyWidget::setBodySize(const QSize& size) {
+    resize(size);
+    titleBar_->setGeometry(0, 0, size.width(), kBar);
+    const int room = size.height() - kBar;
+    content_->move(0, kBar + (movesWithLowerEdge_ ? room - content_->height() : 0));
+    stillPicture_->move(0, kBar + (movesWithLowerEdge_ ? room - stillPicture_->height() : 0));
+    didResize_();
+}
+
+void BodyWidget::paintEvent(QPaintEvent* /*event*/) {
+    const WindowColors& colors = windowColors(palette());
+    QPainter painter(this);
+    painter.fillRect(rect(), colors.border);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), colors.window);
+}
+
+}  // namespace talvex

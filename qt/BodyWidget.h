@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QLabel>
+#include <QPixmap>
+#include <QVariantAnimation>
+#include <QWidget>
+#include <functional>
+
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+
+// The body of the window: the title bar and the content, which cover whatever lies below. A change
+// of its size is a motion if it was announced as one.
+class BodyWidget final : public QWidget {
+  public:
+    // `didResize` hears of every step of a motion.
+    BodyWidget(DYXWindowController& controller, std::function<void()> didResize, QWidget* parent);
+
+    // Takes a picture of the content as it is, which stands in for what goes.
+    void prepareMotion();
+    // Takes the size of the window's record.
+    void followRecord();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void setBodySize(const QSize& size);
+
+    DYXWindowController& controller_;
+    std::function<void()> didResize_;
+    QWidget* titleBar_;
+    QWidget* content_;
+    QLabel* stillPicture_;
+    QPixmap picture_;
+    double displayHeight_ = 0.0;
+    bool movesWithLowerEdge_ = false;
+    QVariantAnimation motion_;
+};
+
+}  // namespace talvex

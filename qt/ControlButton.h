@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QPainter>
+
+#include "platform/NSView.h"
+
+namespace talvex {
+
+// What all buttons of the window have in common: a click leaves the keyboard with the calculator,
+// keys that a button could take for itself go on to the window, the record hears of the pointer,
+// and the button that the keyboard has walked to shows a ring.
+class ControlButton : public QAbstractButton {
+  public:
+    // A button without a record stands for nothing but itself.
+    ControlButton(NSView* record, QWidget* parent);
+
+  protected:
+    void paintFocusRing(QPainter& painter, double radius) const;
+
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+  private:
+    void tellPointer(const QPointF& place);
+
+    NSView* record_;
+};
+
+}  // namespace talvex

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QVariantAnimation>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "platform/NSDrawer.h"
+
+namespace talvex {
+
+// A drawer on the screen: a sheet that slides out from under the body of the window. It is beside
+// the body in the canvas and below it, and its outer edge can be dragged.
+class DrawerWidget final : public QWidget, public NSDrawerObserver {
+  public:
+    // What a drawer needs of the window that it is in.
+    struct Host {
+        std::function<QRect()> body;                        // its place in the canvas
+        std::function<void()> didMove;                      // what is on show has changed
+        std::function<void(const QRect& wanted)> makeRoom;  // brings a place onto the screen
+    };
+    // `makeContent` runs when the drawer is first opened.
+    DrawerWidget(NSDrawer& record, std::function<QWidget*(QWidget*)> makeContent, Host host,
+                 QWidget* canvas);
+    ~DrawerWidget() override;
+
+    void drawerDidChange(const NSDrawer& drawer) override;
+    void followBody();
+    // What can be seen of the drawer, in the canvas; empty while it is closed.
+    [[nodiscard]] QRect visibleRect() const;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    // The place of the drawer if so much of it showed.
+    [[nodiscard]] QRect rectAt(double depth) const;
+    // How much shows of the drawer as it is drawn out.
+    [[nodiscard]] double fullDepth() const;
+    [[nodiscard]] QRect grip() const;
+    void slideTo(double depth);
+    void show(double depth);
+    void place();
+    void makeContentOnce();
+
+    NSDrawer& record_;
+    std::function<QWidget*(QWidget*)> makeContent_;
+    Host host_;
+    QWidget* content_ = nullptr;
+    double depth_ = 0.0;
+    QVariantAnimation slide_;
+    struct Drag {
+        QPoint start;  // on the screen
+        NSSize size;
+    };
+    std::optional<Drag> drag_;
+};
+
+}  // namespace talvex

@@ -1,0 +1,126 @@
+#include "qt/FocusWalk.h"
+
+#include <QAbstractButton>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace talvex {
+namespace {
+
+constexpr auto kAreaProperty = "talvexFocusArea";
+
+QList<QAbstractButton*> buttonsOf(const QWidget& area) {
+    QList<QAbstractButton*> buttons = area.findChildren<QAbstractButton*>();
+    buttons.removeIf(
+        [](const QAbstractButton* button) { return !button->isVisible() || !button->isEnabled(); });
+    return buttons;
+}
+
+QPoint centerOf(const QWidget& button) { return button.mapToGlobal(button.rect().center()); }
+
+QPoint directionOf(int key) {
+    switch (key) {
+        case Qt::Key_Left:
+            return {-1, 0};
+        case Qt::Key_Right:
+            return {1, 0};
+        case Qt::Key_Up:
+            return {0, -1};
+        case Qt::Key_Down:
+            return {0, 1};
+        default:
+            return {};
+    }
+}
+
+}  // namespace
+
+void FocusWalk::markArea(QWidget& area) { area.setProperty(kAreaProperty, true); }
+
+QWidgetList FocusWalk::visibleAreas() const {
+    QWidgetList areas;
+    for (QWidget* const child : window_.findChildren<QWidget*>()) {
+        if (child->property(kAreaProperty).toBool() && child->isVisible() &&
+            !buttonsOf(*child).isEmpty()) {
+            areas.append(child);
+        }
+    }
+    return areas;
+}
+
+QWidget* FocusWalk::focusedButton() const {
+    QWidget* const focused = window_.focusWidget();
+    return focused != &window_ ? focused : nullptr;
+}
+
+bool FocusWalk::take(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_F6) {
+        goToNextArea((event.modifiers() & Qt::ShiftModifier) != 0);
+        return true;
+    }
+    auto* const button = qobject_cast<QAbstractButton*>(focusedButton());
+    if (button == nullptr) {
+        return false;
+    }
+    switch (event.key()) {
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+            button->click();
+            return true;
+        case Qt::Key_Escape:
+            window_.setFocus();
+            return true;
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            goTowards(event.key());
+            return true;
+        default:
+            return false;
+    }
+}
+
+void FocusWalk::goToNextArea(bool backward) {
+    QWidgetList areas = visibleAreas();
+    areas.prepend(&window_);
+    const QWidget* const focused = focusedButton();
+    qsizetype place = 0;
+    for (qsizetype index = 1; index < areas.size(); ++index) {
+        place = focused != nullptr && areas[index]->isAncestorOf(focused) ? index : place;
+    }
+    QWidget* const next = areas[(place + (backward ? areas.size() - 1 : 1)) % areas.size()];
+    if (next == &window_) {
+        window_.setFocus();
+        return;
+    }
+    buttonsOf(*next).first()->setFocus(Qt::TabFocusReason);
+}
+
+// To the button that lies ahead and is nearest, where a step aside counts double.
+void FocusWalk::goTowards(int key) {
+    const QWidget* const from = focusedButton();
+    const QPoint direction = directionOf(key);
+    QAbstractButton* nearest = nullptr;
+    int least = std::numeric_limits<int>::max();
+    for (QWidget* const area : visibleAreas()) {
+        if (!area->isAncestorOf(from)) {
+            continue;
+        }
+        for (QAbstractButton* const button : buttonsOf(*area)) {
+            const QPoint way = centerOf(*button) - centerOf(*from);
+            const int ahead = QPoint::dotProduct(way, direction);
+            const int aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
+            if (ahead > 0 && ahead + 2 * aside < least) {
+                least = ahead + 2 * aside;
+                nearest = button;
+            }
+        }
+    }
+    if (nearest != nullptr) {
+        nearest->setFocus(Qt::TabFocusReason);
+    }
+}
+
+}  // namespace talvex

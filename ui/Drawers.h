@@ -1,0 +1,56 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "platform/NSDrawer.h"
+#include "ui/DYXStatusLineView.h"
+
+namespace talvex {
+
+// In the order in which drawers are handed over to the switch of the key pad.
+enum class DrawerName { memory, constants, conversion, functions };
+
+inline constexpr std::array<DrawerName, 4> kDrawerNames{
+    DrawerName::memory, DrawerName::constants, DrawerName::conversion, DrawerName::functions};
+
+// Widths or heights of the content at which a drawer comes to rest, besides none and all: from the
+// largest down, ended by the first that isn't above 0.
+using DrawerPositions = std::array<float, 8>;
+
+struct Drawer {
+    Drawer(const std::shared_ptr<NSView>& content, NSRectEdge edge,
+           const DrawerPositions& restingPlaces);
+
+    NSDrawer record;
+    const DrawerPositions& positions;
+    bool wasOpen = false;                      // whether it comes back with the key pad
+    NSSize lastSize;                           // that the user last dragged it to
+    DYXStatusLineView* trackedView = nullptr;  // whose tracking rectangles follow a drag
+};
+
+struct WindowViews;
+
+// The four drawers of the calculator: memory on the right, constants on the left, conversions on
+// top, more functions at the bottom.
+class Drawers {
+  public:
+    explicit Drawers(const WindowViews& views);
+
+    [[nodiscard]] Drawer& operator[](DrawerName name);
+    [[nodiscard]] const Drawer& operator[](DrawerName name) const;
+    [[nodiscard]] Drawer& of(const NSDrawer& record);
+
+    // How many drawers have yet to close before the key pad can go.
+    int openDrawerCount = 0;
+
+  private:
+    std::array<Drawer, kDrawerNames.size()> drawers_;
+};
+
+// Slides the drawer in small steps to the position of its list, or to its full or least size,
+// whichever is nearest to the size; the first of equals. Answers where it is then.
+NSSize slideDrawerToPositionsNearestTo(NSDrawer& drawer, const DrawerPositions& positions,
+                                       const NSSize& size);
+
+}  // namespace talvex

@@ -1,0 +1,267 @@
+#include "ui/Panel.h"
+
+#include <array>
+#include <string>
+
+#include "core/function_tables.h"
+#include "display/ascii_text.h"
+#include "numeric/decimal_text.h"
+#include "ui/panel_tables.h"
+#include "ui/simple_tex.h"
+
+namespace talvex {
+namespace {
+
+constexpr double kKeyWidth = 36.0;
+constexpr double kMargin = 5.0;
+constexpr double kStatusHeight = 18.0;
+constexpr double kStatusBottom = 2.0;
+constexpr double kStatusFontSize = 10.0;
+constexpr double kKeysBottom = 23.0;
+
+// Drawers at the sides: six rows.
+constexpr int kSideRows = 6;
+constexpr double kSideHeight = kKeysBottom + kSideRows * (kKeyHeight + kKeyGap) - kKeyGap + kMargin;
+
+// The drawers above and below: six columns of wider keys.
+constexpr int kColumns = 6;
+constexpr double kWideKeyWidth = 58.0;
+constexpr double kWideMargin = 9.0;
+constexpr double kWidth = 2.0 * kWideMargin + kColumns * (kWideKeyWidth + kKeyGap) - kKeyGap;
+
+double rowOffset(int row) { return row * (kKeyHeight + kKeyGap); }
+
+NSRect sideKeyFrame(int row, double x, double width) {
+    return {.x = x,
+            .y = kSideHeight - kMargin - kKeyHeight - rowOffset(row),
+            .width = width,
+            .height = kKeyHeight};
+}
+
+NSRect wideKeyFrame(int column, int columnSpan, double left, double y) {
+    return {.x = left + column * (kWideKeyWidth + kKeyGap),
+            .y = y,
+            .width = columnSpan * (kWideKeyWidth + kKeyGap) - kKeyGap,
+            .height = kKeyHeight};
+}
+
+// A text as it is read aloud: without marks.
+std::u16string spoken(const std::u16string& hint) {
+    std::u16string text = ZUStringExtensions::simpleTexSingleLine(hint).string;
+    while (!text.empty() && text.back() == u' ') {
+        text.pop_back();
+    }
+    return text;
+}
+
+std::shared_ptr<NSTextField> addStatusField(NSView& view, DYXStatusLineTracker& tracker,
+                                            std::uint32_t mask) {
+    auto field = std::make_shared<NSTextField>(NSRect{.x = kMargin,
+                                                      .y = kStatusBottom,
+                                                      .width = view.frame().width - 2.0 * kMargin,
+                                                      .height = kStatusHeight});
+    field->setFont({.name = u"Lucida Grande", .size = kStatusFontSize});
+    field->setAutoresizingMask(mask);
+    view.addSubview(field);
+    tracker.setStatusField(field);
+    return field;
+}
+
+Panel makePanel(const NSSize& size, std::uint32_t statusMask) {
+    Panel panel{.view = std::make_shared<DYXStatusLineView>(
+                    NSRect{.width = size.width, .height = size.height}),
+                .keys = {}};
+    addStatusField(*panel.view, *panel.view, statusMask);
+    return panel;
+}
+
+void addKey(Panel& panel, const KeyDescription& description, std::uint32_t mask, LogPort& log) {
+    panel.keys.push_back(makeKey(description, log));
+    panel.keys.back().button->setAutoresizingMask(mask);
+    panel.view->addSubview(panel.keys.back().button);
+}
+
+// A number as it is set in print: "6.626\u00D710^{\u221234}".
+std::u16string printed(double value) {
+    std::u16string text = asciiText(shortestText(value));
+    const std::size_t mark = text.find(u'e');
+    std::u16string mantissa = text.substr(0, mark);
+    if (mantissa.front() == u'-') {
+        mantissa.replace(0, 1, u"\u2212");
+    }
+    if (mark == std::u16string::npos) {
+        return mantissa;
+    }
+    std::u16string exponent = text.substr(mark + 1);
+    const bool isNegative = exponent.front() == u'-';
+    exponent.erase(0, exponent.find_first_not_of(u"+-0"));
+    return mantissa + u"\u00D710^{" + (isNegative ? u"\u2212" : u"") + exponent + u"}";
+}
+
+std::u16string constantHint(const ConstantKeyRow& row) {
+    const ConstantRow* const constant = findConstant(commandFromString(row.command).action);
+    std::u16string hint = std::u16string(row.name) + u" = " + printed(constant->value);
+    return row.unit.empty() ? hint : hint + u' ' + std::u16string(row.unit);
+}
+
+void setActions(const std::vector<Key>& keys, const std::function<void(NSButton&)>& action) {
+    for (const Key& key : keys) {
+        key.button->setAction(action);
+        key.button->setKeyEquivalent(u"");
+    }
+}
+
+}  // namespace
+
+Key makeKey(const KeyDescription& description, LogPort& log) {
+    const std::u16string title(description.title);
+    Key key{.button = {}, .group = description.group};
+    if (description.keyClass == KeyClass::key) {
+        key.button = std::make_shared<DYXButton>(description.frame, title, log);
+    } else {
+        key.button = std::make_shared<ZUModifierButton>(description.frame);
+        key.button->setTitle(title);
+        key.button->setToggles(description.keyClass == KeyClass::lock);
+    }
+    key.button->setAlternateTitle(std::u16string(description.command));
+    key.button->setToolTip(description.hint);
+    key.button->setAccessibilityLabel(spoken(description.hint));
+    return key;
+}
+
+void Panel::setKeyAction(const std::function<void(NSButton&)>& action) const {
+    setActions(keys, action);
+}
+
+void ConversionPanel::setKeyAction(const std::function<void(NSButton&)>& action) const {
+    for (const std::vector<Key>& page : pages) {
+        setActions(page, action);
+    }
+}
+
+Panel makeMemoryPanel(LogPort& log) {
+    static constexpr int kRegisterColumns = 5;
+    static constexpr int kRegisters = 20;
+    static constexpr int kFirstRegisterRow = 2;
+    static constexpr double kPitch = kKeyWidth + kKeyGap;
+    Panel panel = makePanel({2.0 * kMargin + kRegisterColumns * kPitch - kKeyGap, kSideHeight},
+                            NSViewWidthSizable);
+    for (const MemoryKeyRow& row : memoryKeyRows()) {
+        addKey(panel,
+               {.frame = sideKeyFrame(row.row, kMargin + row.column * kPitch,
+                                      row.columnSpan * kPitch - kKeyGap),
+                .command = row.command,
+                .title = row.title,
+                .hint = std::u16string(row.hint),
+                .group = row.group,
+                .keyClass = row.keyClass},
+               NSViewMinXMargin, log);
+    }
+    for (int number = 0; number < kRegisters; ++number) {
+        const std::u16string digits = asciiText(std::to_string(number));
+        const std::u16string command = (number < 10 ? u"memoM00" : u"memoM0") + digits;
+        addKey(panel,
+               {.frame = sideKeyFrame(kFirstRegisterRow + number / kRegisterColumns,
+                                      kMargin + number % kRegisterColumns * kPitch, kKeyWidth),
+                .command = command,
+                .title = u"M_{" + digits + u"}",
+                .hint = u"memory register " + digits,
+                .group = KeyGroup::digit},
+               NSViewMinXMargin, log);
+    }
+    return panel;
+}
+
+Panel makeConstantsPanel(LogPort& log) {
+    // The right edges of the columns, which are the places where the drawer comes to rest.
+    static constexpr std::array<double, 9> kEdges{0.0,   47.0,  91.0,  133.0, 182.0,
+                                                  229.0, 271.0, 313.0, 355.0};
+    Panel panel = makePanel({kEdges.back(), kSideHeight}, NSViewWidthSizable);
+    int number = 0;
+    for (const ConstantKeyRow& row : constantKeyRows()) {
+        const auto column = static_cast<std::size_t>(number / kSideRows);
+        const double left = column == 0 ? kMargin : kEdges.at(column);
+        addKey(panel,
+               {.frame =
+                    sideKeyFrame(number % kSideRows, left, kEdges.at(column + 1) - left - kKeyGap),
+                .command = row.command,
+                .title = row.title,
+                .hint = constantHint(row),
+                .group = KeyGroup::digit},
+               NSViewMaxXMargin, log);
+        panel.keys.back().button->setAccessibilityLabel(std::u16string(row.name));
+        ++number;
+    }
+    return panel;
+}
+
+Panel makeFunctionsPanel(LogPort& log) {
+    // The upper edges of the rows, from the bottom: the places where the drawer comes to rest.
+    static constexpr std::array<double, 7> kEdges{47.0, 73.0, 98.0, 126.0, 153.0, 182.0, 208.0};
+    Panel panel = makePanel({kWidth, kEdges.back()}, NSViewNotSizable);
+    for (const FunctionKeyRow& row : functionKeyRows()) {
+        addKey(panel,
+               {.frame = wideKeyFrame(row.column, row.columnSpan, kWideMargin,
+                                      kEdges.at(row.row) - kKeyGap - kKeyHeight),
+                .command = row.command,
+                .title = row.title,
+                .hint = std::u16string(row.hint)},
+               NSViewNotSizable, log);
+    }
+    return panel;
+}
+
+namespace {
+
+constexpr int kUnitRows = 4;
+constexpr double kPageMargin = 5.0;
+constexpr double kPageHeight = 2.0 * kPageMargin + kUnitRows * (kKeyHeight + kKeyGap) - kKeyGap;
+constexpr NSRect kTabFrame{.x = kWideMargin - kPageMargin,
+                           .y = 22.0,
+                           .width = kWidth - 2.0 * (kWideMargin - kPageMargin),
+                           .height = kPageHeight};
+constexpr double kTabButtonsHeight = 60.0;
+
+std::vector<Key> unitKeys(const UnitPage& page, LogPort& log) {
+    std::vector<Key> keys;
+    for (const UnitKeyRow& unit : page.units) {
+        const int number = static_cast<int>(keys.size());
+        const std::u16string command =
+            u"conv" + std::u16string(page.group) + std::u16string(unit.action);
+        keys.push_back(makeKey({.frame = wideKeyFrame(number % kColumns, 1, kPageMargin,
+                                                      kPageHeight - kPageMargin - kKeyHeight -
+                                                          rowOffset(number / kColumns)),
+                                .command = command,
+                                .title = unit.title,
+                                .hint = std::u16string(unit.name)},
+                               log));
+        keys.back().button->setAutoresizingMask(NSViewMinYMargin);
+    }
+    return keys;
+}
+
+}  // namespace
+
+ConversionPanel makeConversionPanel(LogPort& log, const HotKeys& hotKeys) {
+    ConversionPanel panel;
+    std::vector<NSTabViewItem> items;
+    for (const UnitPage& page : unitPages()) {
+        auto view =
+            std::make_shared<NSView>(NSRect{.width = kTabFrame.width, .height = kTabFrame.height});
+        panel.pages.push_back(unitKeys(page, log));
+        for (const Key& key : panel.pages.back()) {
+            view->addSubview(key.button);
+        }
+        items.push_back({.label = std::u16string(page.label), .view = std::move(view)});
+    }
+    panel.view = std::make_shared<NSView>(NSRect{
+        .width = kWidth, .height = kTabFrame.y + kTabFrame.height + kTabButtonsHeight + kMargin});
+    panel.tabView = std::make_shared<DYXTabView>(kTabFrame, std::move(items), hotKeys);
+    panel.tabView->setAutoresizingMask(NSViewMinYMargin);
+    panel.view->addSubview(panel.tabView);
+    addStatusField(*panel.view, *panel.tabView, NSViewMinYMargin);
+    panel.tabView->setNumberOfRows(kUnitRows);
+    return panel;
+}
+
+}  // namespace talvex

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "platform/Platform.h"
+#include "ui/DYXButton.h"
+#include "ui/DYXStatusLineView.h"
+#include "ui/DYXTabView.h"
+
+// The panels in the drawers, made from their tables.
+namespace talvex {
+
+// All keys of the pad and of the drawers are of one height, with the same room between them.
+inline constexpr double kKeyHeight = 21.0;
+inline constexpr double kKeyGap = 3.0;
+
+struct Key {
+    std::shared_ptr<NSButton> button;
+    KeyGroup group;
+};
+
+struct KeyDescription {
+    NSRect frame;
+    std::u16string_view command;
+    std::u16string_view title;  // simple TeX
+    std::u16string hint;        // simple TeX
+    KeyGroup group = KeyGroup::function;
+    KeyClass keyClass = KeyClass::key;
+};
+
+// The record of a key: of a command key its title is rich text, of the others it's plain.
+Key makeKey(const KeyDescription& description, LogPort& log);
+
+// A view with its keys and a status field.
+struct Panel {
+    std::shared_ptr<DYXStatusLineView> view;
+    std::vector<Key> keys;
+
+    void setKeyAction(const std::function<void(NSButton&)>& action) const;
+};
+
+Panel makeMemoryPanel(LogPort& log);
+Panel makeConstantsPanel(LogPort& log);
+Panel makeFunctionsPanel(LogPort& log);
+
+// The conversion drawer: the tab view with the keys of each page, and a status field.
+struct ConversionPanel {
+    std::shared_ptr<NSView> view;
+    std::shared_ptr<DYXTabView> tabView;
+    std::vector<std::vector<Key>> pages;
+
+    void setKeyAction(const std::function<void(NSButton&)>& action) const;
+};
+
+ConversionPanel makeConversionPanel(LogPort& log, const HotKeys& hotKeys);
+
+}  // namespace talvex

@@ -1,0 +1,108 @@
+// The four drawers: opening, dragging, and their hand-over to the switch of the key pad.
+
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+namespace {
+
+// In a window no higher than this the key pad is hidden.
+constexpr double kLowWindow = 200.0;
+constexpr std::uint32_t kPrimaryButton = 1;
+
+}  // namespace
+
+void DYXWindowController::connectDrawers() {
+    windowDidResize();
+    for (const DrawerName name : kDrawerNames) {
+        drawers_[name].record.setDelegate(this);
+    }
+    std::size_t place = 0;
+    for (const DrawerKeyRow& row : drawerKeyRows()) {
+        views_->keyPad.drawerButtons()[place++]->setAction(
+            [this, name = row.drawer](NSButton&) { toggleDrawer(drawers_[name].record); });
+    }
+}
+
+void DYXWindowController::takeToggleMemoryDrawerFrom() {
+    toggleDrawer(drawers_[DrawerName::memory].record);
+}
+
+void DYXWindowController::takeToggleConstantsDrawerFrom() {
+    toggleDrawer(drawers_[DrawerName::constants].record);
+}
+
+void DYXWindowController::takeToggleConversionDrawerFrom() {
+    toggleDrawer(drawers_[DrawerName::conversion].record);
+}
+
+void DYXWindowController::takeToggleFunctionsDrawerFrom() {
+    toggleDrawer(drawers_[DrawerName::functions].record);
+}
+
+void DYXWindowController::toggleDrawer(NSDrawer& drawer) {
+    if (drawer.isOpenOrOpening()) {
+        drawer.close();
+    } else if (views_->window.frame().height > kLowWindow) {
+        drawer.openOnEdge(drawer.preferredEdge());
+    }
+}
+
+// A drag has ended when the mouse is up and the size comes a second time.
+NSSize DYXWindowController::drawerWillResizeContentsToSize(NSDrawer& record, const NSSize& size) {
+    Drawer& drawer = drawers_.of(record);
+    const bool isMouseUp = (platform().GetCurrentButtonState() & kPrimaryButton) == 0;
+    if (drawer.trackedView != nullptr) {
+        drawer.trackedView->removeTrackingRects();
+    }
+    NSSize result = size;
+    if (isMouseUp && size == drawer.lastSize) {
+        result = slideDrawerToPositionsNearestTo(record, drawer.positions, size);
+    }
+    drawer.lastSize = result;
+    if (drawer.trackedView != nullptr && settings_.statusLinesEnabled) {
+        drawer.trackedView->addTrackingRects(*hotKeys_);
+    }
+    return result;
+}
+
+// A drawer that was dragged shut is whole the next time.
+void DYXWindowController::drawerDidClose(NSDrawer& drawer) {
+    if (drawers_.openDrawerCount > 0) {
+        --drawers_.openDrawerCount;
+        if (drawers_.openDrawerCount == 0) {
+            finishHidingKeyPad();
+        }
+    }
+    const bool isLevel = drawer.preferredEdge() % 2 == 1;
+    if ((isLevel ? drawer.contentSize().height : drawer.contentSize().width) == 0.0) {
+        drawer.setContentSize(drawer.maxContentSize());
+    }
+}
+
+void DYXWindowController::drawerStateDidChange(NSDrawer& drawer) {
+    std::size_t place = 0;
+    for (const DrawerKeyRow& row : drawerKeyRows()) {
+        NSButton& button = *views_->keyPad.drawerButtons()[place++];
+        if (&drawers_[row.drawer].record == &drawer) {
+            button.setState(drawer.isOpenOrOpening() ? 1 : 0);
+        }
+    }
+}
+
+void DYXWindowController::closeDrawersForKeyPad() {
+    drawers_.openDrawerCount = 0;
+    for (const DrawerName name : kDrawerNames) {
+        Drawer& drawer = drawers_[name];
+        drawer.wasOpen = drawer.record.isOpenOrOpening();
+        drawers_.openDrawerCount += drawer.wasOpen ? 1 : 0;
+    }
+    if (drawers_.openDrawerCount == 0) {
+        finishHidingKeyPad();
+        return;
+    }
+    for (const DrawerName name : kDrawerNames) {
+        drawers_[name].record.close();
+    }
+}
+
+}  // namespace talvex

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "ui/DYXButton.h"
+
+// Every key of the drawers, one row each. Titles and hints are simple TeX, commands in string form.
+namespace talvex {
+
+struct ConstantKeyRow {
+    std::u16string_view command;
+    std::u16string_view title;
+    std::u16string_view name;
+    std::u16string_view unit;  // empty for pure numbers
+};
+
+// Eight columns of six, by columns.
+[[nodiscard]] std::span<const ConstantKeyRow> constantKeyRows();
+
+struct FunctionKeyRow {
+    std::u16string_view command;
+    std::u16string_view title;
+    std::u16string_view hint;
+    std::uint8_t row;
+    std::uint8_t column;
+    std::uint8_t columnSpan = 1;
+};
+
+// Seven rows of six.
+[[nodiscard]] std::span<const FunctionKeyRow> functionKeyRows();
+
+struct MemoryKeyRow {
+    std::u16string_view command;
+    std::u16string_view title;
+    std::u16string_view hint;
+    KeyGroup group;
+    std::uint8_t row;
+    std::uint8_t column;
+    std::uint8_t columnSpan = 1;
+    KeyClass keyClass = KeyClass::key;
+};
+
+// The keys above the registers; the registers M0 to M19 fill the rows below, five to a row.
+[[nodiscard]] std::span<const MemoryKeyRow> memoryKeyRows();
+
+struct UnitKeyRow {
+    std::u16string_view action;  // four characters
+    std::u16string_view title;
+    std::u16string_view name;
+};
+
+// One page of the conversion drawer.
+struct UnitPage {
+    std::u16string_view label;
+    std::u16string_view group;  // four characters
+    std::span<const UnitKeyRow> units;
+};
+
+[[nodiscard]] std::span<const UnitPage> unitPages();
+
+}  // namespace talvex

@@ -1,0 +1,95 @@
+// What the status lines tell about the control under the pointer.
+
+#include <cmath>
+
+#include "core/Comand.h"
+#include "display/ascii_text.h"
+#include "numeric/DYXnan.h"
+#include "numeric/decimal_text.h"
+#include "platform/NSButton.h"
+#include "ui/DYXWindowController.h"
+#include "ui/simple_tex.h"
+
+namespace talvex {
+namespace {
+
+constexpr unsigned kValueDigits = 9;
+
+std::u16string valueText(double value) {
+    if (std::isnan(value)) {
+        return DYXnanString(value);
+    }
+    if (std::isinf(value)) {
+        return value < 0.0 ? u"-inf" : u"inf";
+    }
+    return asciiText(generalText(value, kValueDigits));
+}
+
+NSAttributedString plainLine(const std::u16string& text) {
+    NSAttributedString line = ZUStringExtensions::simpleTexSingleLine(u"");
+    NSTextAttributes attributes = line.attributes.front();
+    attributes.superscript = 0;
+    attributes.font.size = ZUStringExtensions::kToolTipSize;
+    line.string = text;
+    line.attributes.assign(text.size(), attributes);
+    return line;
+}
+
+}  // namespace
+
+std::optional<NSAttributedString> DYXWindowController::statusLineForView(const NSView& view) const {
+    const auto* const button = dynamic_cast<const NSButton*>(&view);
+    if (button == nullptr) {
+        return std::nullopt;
+    }
+    const Comand command = commandFromString(button->alternateTitle());
+    const auto character = [&command](unsigned place) {
+        return characterOf(command.action, place);
+    };
+    if (command.category == fourCC("memo") && character(0) == 'M') {
+        const auto number = static_cast<unsigned>(10 * (character(2) - '0') + (character(3) - '0'));
+        if (number < mem().size()) {
+            return ZUStringExtensions::simpleTexSingleLine(
+                u"M_{" + asciiText(std::to_string(number)) + u"} = " + valueText(mem()[number]));
+        }
+    }
+    if (command.category == fourCC("data") && character(0) == 'E' &&
+        command.action != fourCC("EEX ") && command.action != fourCC("ENT ")) {
+        return plainLine(u"EEX " +
+                         asciiText(std::string{character(1), character(2), character(3)}));
+    }
+    return std::nullopt;
+}
+
+void DYXWindowController::takeStatusLinesEnabledFrom(const NSMenuItem& /*item*/) {
+    settings_.statusLinesEnabled = !settings_.statusLinesEnabled;
+    showStatusLines();
+}
+
+std::array<DYXStatusLineView*, 4> DYXWindowController::statusLineViews() const {
+    return {views_->constantsPanel.view.get(), views_->functionsPanel.view.get(),
+            views_->memoryPanel.view.get(), views_->keyPad.view().get()};
+}
+
+void DYXWindowController::showStatusLines() {
+    for (DYXStatusLineView* const view : statusLineViews()) {
+        view->setDelegate(this);
+        view->removeTrackingRects();
+    }
+    views_->conversionPanel.tabView->setShowStatusLines(false);
+    if (!settings_.statusLinesEnabled) {
+        return;
+    }
+    for (DYXStatusLineView* const view : statusLineViews()) {
+        view->addTrackingRects(*hotKeys_);
+    }
+    views_->conversionPanel.tabView->setShowStatusLines(true);
+}
+
+void DYXWindowController::trackKeyPad() {
+    if (settings_.statusLinesEnabled) {
+        views_->keyPad.view()->addTrackingRects(*hotKeys_);
+    }
+}
+
+}  // namespace talvex
