@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "qt/BodyWidget.h"
 #include "qt/DrawerWidget.h"
@@ -115,7 +116,14 @@ void CalculatorWindow::showPieces() {
         setMask(region);
     }
     if (isVisible()) {
-        publishFrameExtents(*this, marginsAround(bodyRect(), size()));
+        publishMargins();
+    }
+}
+
+void CalculatorWindow::publishMargins() {
+    const QMargins margins = marginsAround(bodyRect(), size());
+    if (margins != std::exchange(publishedMargins_, margins)) {
+        publishFrameExtents(*this, margins);
     }
 }
 
@@ -186,7 +194,8 @@ void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
 
 void CalculatorWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    publishFrameExtents(*this, marginsAround(bodyRect(), size()));
+    publishedMargins_ = {};
+    publishMargins();
     activateWindow();
 }
 

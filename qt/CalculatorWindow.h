@@ -51,11 +51,13 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void adoptModifiers();
     void dropModifiers();
     void sendFlags();
+    void publishMargins();
 
     DYXWindowController& controller_;
     QMargins drawerRoom_;
     BodyWidget* body_ = nullptr;
     std::array<DrawerWidget*, kDrawerNames.size()> drawers_{};
+    QMargins publishedMargins_;
     HeldModifiers heldModifiers_;
     FocusWalk focusWalk_;
 };

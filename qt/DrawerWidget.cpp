@@ -17,6 +17,7 @@ constexpr int kBorder = static_cast<int>(NSDrawer::kOuterBorder);
 // Ahead of the content along the edge; what is left of the two ends lies behind it.
 constexpr int kLeadingEnd = 7;
 constexpr int kGripLength = 24;
+constexpr float kGripOpacity = 0.45F;
 
 int whole(double value) { return static_cast<int>(std::lround(value)); }
 
@@ -169,7 +170,9 @@ void DrawerWidget::paintEvent(QPaintEvent* /*event*/) {
     // A short line on the outer edge says that it can be taken hold of.
     const QPoint center = grip().center();
     const QSize half = record_.isLevel() ? QSize(kGripLength / 2, 0) : QSize(0, kGripLength / 2);
-    painter.setPen(QPen(colors.border, 2.0, Qt::SolidLine, Qt::RoundCap));
+    QColor mark = colors.title;
+    mark.setAlphaF(kGripOpacity);
+    painter.setPen(QPen(mark, 2.0, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(center - QPoint(half.width(), half.height()),
                      center + QPoint(half.width(), half.height()));
 }

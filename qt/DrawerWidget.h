@@ -26,6 +26,7 @@ class DrawerWidget final : public QWidget, public NSDrawerObserver {
 
     void drawerDidChange(const NSDrawer& drawer) override;
     void followBody();
+    [[nodiscard]] const NSDrawer& record() const { return record_; }
     // What can be seen of the drawer, in the canvas; empty while it is closed.
     [[nodiscard]] QRect visibleRect() const;
 

@@ -1,7 +1,6 @@
 #include "qt/FocusWalk.h"
 
 #include <QAbstractButton>
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -98,8 +97,9 @@ void FocusWalk::goToNextArea(bool backward) {
     buttonsOf(*next).first()->setFocus(Qt::TabFocusReason);
 }
 
-// To the button that lies ahead and is nearest, where a step aside counts double.
+// To the nearest button ahead in the same row or column; where there is none, to the nearest ahead.
 void FocusWalk::goTowards(int key) {
+    constexpr int kBeside = 10'000;
     const QWidget* const from = focusedButton();
     const QPoint direction = directionOf(key);
     QAbstractButton* nearest = nullptr;
@@ -111,9 +111,13 @@ void FocusWalk::goTowards(int key) {
         for (QAbstractButton* const button : buttonsOf(*area)) {
             const QPoint way = centerOf(*button) - centerOf(*from);
             const int ahead = QPoint::dotProduct(way, direction);
-            const int aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
-            if (ahead > 0 && ahead + 2 * aside < least) {
-                least = ahead + 2 * aside;
+            const QPoint aside(std::abs(way.x() * direction.y()),
+                               std::abs(way.y() * direction.x()));
+            const bool isInLine = 2 * aside.x() < button->width() + from->width() &&
+                                  2 * aside.y() < button->height() + from->height();
+            const int cost = ahead + (isInLine ? 0 : kBeside + 2 * (aside.x() + aside.y()));
+            if (ahead > 0 && cost < least) {
+                least = cost;
                 nearest = button;
             }
         }

@@ -36,9 +36,8 @@ void TabButton::paintEvent(QPaintEvent* /*event*/) {
                         : underMouse() && !isChecked() ? hoverFace(key.face)
                                                        : key.face;
     QPainter painter(this);
-    painter.setPen(colors.border);
-    painter.setBrush(face);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), colors.border);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), face);
     painter.setFont(toQFont(cell().font));
     painter.setPen(key.text);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
@@ -76,7 +75,10 @@ void TabViewWidget::placeTabs() {
 }
 
 void TabViewWidget::paintEvent(QPaintEvent* /*event*/) {
+    // The frame is made of greys for a light ground.
+    constexpr double kOnDark = 0.3;
     QPainter painter(this);
+    painter.setOpacity(isDark(palette()) ? kOnDark : 1.0);
     QtGraphicsContext context(painter, height());
     panel_.tabView->drawRect(context);
 }

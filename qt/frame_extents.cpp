@@ -17,6 +17,9 @@ void publishFrameExtents(const QWidget& window, const QMargins& margins) {
         return;
     }
     xcb_connection_t* const connection = native->connection();
+    if (connection == nullptr) {
+        return;
+    }
     constexpr std::string_view kName = "_GTK_FRAME_EXTENTS";
     const auto cookie = xcb_intern_atom(connection, 0, kName.size(), kName.data());
     const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(

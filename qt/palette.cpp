@@ -57,11 +57,14 @@ const KeyColors& WindowColors::key(KeyGroup group) const {
     return function;
 }
 
+bool isDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < kMiddleLightness;
+}
+
 const WindowColors& windowColors(const QPalette& palette) {
     static const WindowColors light = lightColors();
     static const WindowColors dark = darkColors();
-    const bool isDark = palette.color(QPalette::Window).lightness() < kMiddleLightness;
-    return isDark ? dark : light;
+    return isDark(palette) ? dark : light;
 }
 
 // A bright face can only get darker under the pointer.

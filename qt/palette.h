@@ -36,6 +36,7 @@ struct WindowColors {
     }
 };
 
+[[nodiscard]] bool isDark(const QPalette& palette);
 [[nodiscard]] const WindowColors& windowColors(const QPalette& palette);
 
 // The face of a key under the pointer, and while it is pressed.

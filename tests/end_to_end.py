@@ -177,6 +177,46 @@ class EndToEnd(unittest.TestCase):
         self.calculator = Calculator()
         self.expect_x("42.000" + THIN + "0")
 
+    def open_drawer(self, name, key):
+        """Opens it, and waits until the key in it has come to rest."""
+        self.calculator.click(f"open or close the drawer of {name}")
+        place = None
+
+        def rests():
+            nonlocal place
+            if self.calculator.find(key) is None:
+                return False
+            box = self.calculator.key(key).get_extents(Atspi.CoordType.SCREEN)
+            last, place = place, (box.x, box.y)
+            return place == last
+
+        wait_until(rests, f"{key} to come to rest", pause=0.1)
+
+    def test_drawers_hold_constants_and_units_and_come_back(self):
+        self.open_drawer("constants", "speed of light in vacuum")
+        self.open_drawer("unit conversions", "foot")
+        self.calculator.click("speed of light in vacuum")
+        self.expect_x("299,792,458.000" + THIN + "0")
+        self.calculator.click("5", "foot", "metre")
+        self.expect_x("1.524" + THIN + "0")
+        self.calculator.click("inch")
+        self.expect_x("60.000" + THIN + "0")
+        self.calculator.click("Temperature", "clear X", "degree Celsius", "degree Fahrenheit")
+        self.expect_x("32.000" + THIN + "0")
+
+        def places():
+            return [(box.x, box.y) for box in
+                    (self.calculator.key(name).get_extents(Atspi.CoordType.SCREEN)
+                     for name in ("speed of light in vacuum", "degree Celsius", "enter"))]
+
+        before = places()
+        PROCESS.restart()
+        self.calculator = Calculator()
+        wait_until(lambda: places() == before, "everything where it was")
+        self.expect_x("32.000" + THIN + "0")
+        self.calculator.click("open or close the drawer of constants",
+                              "open or close the drawer of unit conversions")
+
     def test_four_lines_show_the_stack(self):
         self.calculator.click("show the registers Y, Z and T")
         xdotool("key", "4", "Return", "5", "Return", "6", "Return", "7")

@@ -1,0 +1,59 @@
+#include "Stage.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <algorithm>
+
+#include "platform/NSEvent.h"
+
+namespace talvex {
+
+Stage::Stage() : controller_(platform_) {
+    controller_.takeWindowSizingAnimationFrom({.title = {}, .action = {}, .state = 1});
+    window_ = std::make_unique<CalculatorWindow>(controller_);
+    window_->show();
+    settle();
+}
+
+void Stage::type(std::u16string_view keys) {
+    for (const char16_t key : keys) {
+        controller_.keyDown({.type = NSKeyDown, .charactersIgnoringModifiers = {key}});
+    }
+}
+
+void Stage::open(DrawerName name) {
+    controller_.toggleDrawer(controller_.drawers()[name].record);
+    settle();
+}
+
+void Stage::choose(void (DYXWindowController::*action)(const NSMenuItem&), int tag) {
+    (controller_.*action)({.title = {}, .tag = tag, .action = {}});
+}
+
+void Stage::settle() {
+    const auto isSliding = [this] {
+        return std::any_of(kDrawerNames.begin(), kDrawerNames.end(), [this](DrawerName name) {
+            const NSDrawerState state = controller_.drawers()[name].record.state();
+            return state == NSDrawerOpeningState || state == NSDrawerClosingState;
+        });
+    };
+    constexpr int kLongest = 2000;
+    QElapsedTimer timer;
+    timer.start();
+    do {
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+    } while (isSliding() && timer.elapsed() < kLongest);
+}
+
+QImage Stage::picture() {
+    settle();
+    const QRegion region = window_->visibleRegion();
+    QPixmap pixmap(region.boundingRect().size() * window_->devicePixelRatio());
+    pixmap.setDevicePixelRatio(window_->devicePixelRatio());
+    pixmap.fill(Qt::transparent);
+    window_->render(&pixmap, QPoint(), region.translated(0, 0), QWidget::DrawChildren);
+    return pixmap.toImage();
+}
+
+}  // namespace talvex

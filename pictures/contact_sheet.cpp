@@ -1,0 +1,185 @@
+// Makes pictures of all layouts, drawers and modes. Usage: contact_sheet FOLDER light|dark
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <vector>
+
+#include "Stage.h"
+#include "display/display_modes.h"
+#include "qt/conversions.h"
+#include "qt/palette.h"
+
+namespace talvex {
+namespace {
+
+struct Picture {
+    QString name;
+    QImage image;
+};
+
+QSize sizeOf(const QImage& image) { return image.deviceIndependentSize().toSize(); }
+
+// The pictures in rows of a given width, each with its name below.
+QImage sheetOf(const std::vector<Picture>& pictures, int width) {
+    constexpr int kGap = 20;
+    constexpr int kName = 18;
+    std::vector<QPoint> places;
+    QPoint place(kGap, kGap);
+    int rowHeight = 0;
+    for (const Picture& picture : pictures) {
+        const QSize size = sizeOf(picture.image);
+        if (place.x() > kGap && place.x() + size.width() + kGap > width) {
+            place = QPoint(kGap, place.y() + rowHeight + kName + kGap);
+            rowHeight = 0;
+        }
+        places.push_back(place);
+        place.rx() += size.width() + kGap;
+        rowHeight = std::max(rowHeight, size.height());
+    }
+    const double scale = pictures.front().image.devicePixelRatio();
+    const QSize whole(width, place.y() + rowHeight + kName + kGap);
+    QImage sheet(whole * scale, QImage::Format_ARGB32_Premultiplied);
+    sheet.setDevicePixelRatio(scale);
+    const bool onDark = isDark(QApplication::palette());
+    sheet.fill(onDark ? QColor(0x3A, 0x3F, 0x46) : QColor(0xF4, 0xF4, 0xF6));
+    QPainter painter(&sheet);
+    painter.setPen(onDark ? Qt::white : Qt::black);
+    painter.setFont(toQFont({.name = u"Lucida Grande", .size = 11.0}));
+    for (std::size_t index = 0; index < pictures.size(); ++index) {
+        const QSize size = sizeOf(pictures[index].image);
+        painter.drawImage(places[index], pictures[index].image);
+        painter.drawText(QRect(places[index] + QPoint(0, size.height()), QSize(400, kName)),
+                         Qt::AlignLeft | Qt::AlignVCenter, pictures[index].name);
+    }
+    return sheet;
+}
+
+// A stack with something on every line.
+void fillStack(Stage& stage) { stage.type(u"1234.5678\r2q\r3r\r1.5"); }
+
+std::vector<Picture> layouts() {
+    std::vector<Picture> pictures;
+    for (const bool keyPadHidden : {false, true}) {
+        for (const bool fourLines : {false, true}) {
+            for (const bool statusLine : {false, true}) {
+                if (keyPadHidden && statusLine) {
+                    continue;
+                }
+                Stage stage;
+                fillStack(stage);
+                if (fourLines) {
+                    stage.controller().takeShowYZTRegistersFrom();
+                }
+                if (statusLine) {
+                    stage.controller().takeShowStatusLineFrom();
+                    stage.controller()
+                        .views()
+                        .keyPad.button(u"unitGSIN")
+                        .pointerMoved(NSPoint{1.0, 1.0});
+                }
+                if (keyPadHidden) {
+                    stage.controller().takeShowKeyPadFrom();
+                }
+                pictures.push_back(
+                    {QStringLiteral("%1%2%3").arg(keyPadHidden ? "display" : "key pad",
+                                                  fourLines ? ", four lines" : "",
+                                                  statusLine ? ", status line" : ""),
+                     stage.picture()});
+            }
+        }
+    }
+    return pictures;
+}
+
+struct OpenDrawer {
+    DrawerName name;
+    const char* title;
+};
+
+constexpr std::array<OpenDrawer, 4> kDrawers{{{DrawerName::memory, "memory"},
+                                              {DrawerName::constants, "constants"},
+                                              {DrawerName::conversion, "conversions"},
+                                              {DrawerName::functions, "functions"}}};
+
+std::vector<Picture> drawers() {
+    std::vector<Picture> pictures;
+    for (const OpenDrawer& drawer : kDrawers) {
+        Stage stage;
+        fillStack(stage);
+        stage.open(drawer.name);
+        pictures.push_back({QString::fromLatin1(drawer.title), stage.picture()});
+    }
+    Stage all;
+    fillStack(all);
+    all.controller().takeShowYZTRegistersFrom();
+    all.controller().takeShowStatusLineFrom();
+    for (const OpenDrawer& drawer : kDrawers) {
+        all.open(drawer.name);
+    }
+    pictures.push_back({QStringLiteral("all drawers"), all.picture()});
+    Stage pages;
+    pages.open(DrawerName::conversion);
+    for (int page = 0;
+         page < pages.controller().views().conversionPanel.tabView->numberOfTabViewItems();
+         ++page) {
+        pages.controller().views().conversionPanel.tabView->selectTabViewItemAtIndex(page);
+        pictures.push_back({QStringLiteral("page %1").arg(page), pages.picture()});
+    }
+    return pictures;
+}
+
+std::vector<Picture> modes() {
+    std::vector<Picture> pictures;
+    for (std::int32_t mode = 0; mode < mode::count; ++mode) {
+        Stage stage;
+        stage.type(u"10r\r1.5\r3\r1234.5678\r");
+        stage.controller().takeShowYZTRegistersFrom();
+        stage.controller().takeShowKeyPadFrom();
+        stage.choose(&DYXWindowController::takeInputModeFrom, mode);
+        pictures.push_back({toQString(displayModeName(mode)), stage.picture()});
+    }
+    return pictures;
+}
+
+bool save(const QString& path, const QImage& image) {
+    if (image.save(path)) {
+        return true;
+    }
+    std::fprintf(stderr, "Can't write %s\n", qPrintable(path));
+    return false;
+}
+
+QPalette paletteOf(bool dark) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, dark ? QColor(0x2A, 0x2C, 0x30) : QColor(Qt::white));
+    palette.setColor(QPalette::WindowText, dark ? QColor(Qt::white) : QColor(Qt::black));
+    return palette;
+}
+
+}  // namespace
+}  // namespace talvex
+
+int main(int argc, char** argv) {
+    using namespace talvex;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 3) {
+        std::fputs("Usage: contact_sheet FOLDER light|dark\n", stderr);
+        return 2;
+    }
+    QApplication::setPalette(paletteOf(arguments[2] == QLatin1String("dark")));
+    const QDir folder(arguments[1]);
+    if (!folder.mkpath(QStringLiteral("."))) {
+        return 1;
+    }
+    constexpr int kWidth = 1300;
+    const bool isWritten = save(folder.filePath("layouts.png"), sheetOf(layouts(), kWidth)) &&
+                           save(folder.filePath("drawers.png"), sheetOf(drawers(), 2 * kWidth)) &&
+                           save(folder.filePath("modes.png"), sheetOf(modes(), kWidth));
+    return isWritten ? 0 : 1;
+}
