@@ -178,8 +178,12 @@ int main(int argc, char** argv) {
         return 1;
     }
     constexpr int kWidth = 1300;
-    const bool isWritten = save(folder.filePath("layouts.png"), sheetOf(layouts(), kWidth)) &&
-                           save(folder.filePath("drawers.png"), sheetOf(drawers(), 2 * kWidth)) &&
+    const std::vector<Picture> views = layouts();
+    const std::vector<Picture> opened = drawers();
+    const bool isWritten = save(folder.filePath("window.png"), views[2].image) &&
+                           save(folder.filePath("all_drawers.png"), opened[4].image) &&
+                           save(folder.filePath("layouts.png"), sheetOf(views, kWidth)) &&
+                           save(folder.filePath("drawers.png"), sheetOf(opened, 2 * kWidth)) &&
                            save(folder.filePath("modes.png"), sheetOf(modes(), kWidth));
     return isWritten ? 0 : 1;
 }

@@ -26,7 +26,8 @@ double titleSize(const std::u16string& title, KeyGroup group, double formulaSize
     if (isWord) {
         return title.size() > 3 ? kLongWordSize : kWordSize;
     }
-    const bool isDigit = group == KeyGroup::digit && title.size() == 1 && title[0] >= u'0' && title[0] <= u'9';
+    const bool isDigit =
+        group == KeyGroup::digit && title.size() == 1 && title[0] >= u'0' && title[0] <= u'9';
     return isDigit || group == KeyGroup::operation ? kSignSize : formulaSize;
 }
 
