@@ -1,8 +1,10 @@
 #include <QApplication>
 #include <QSessionManager>
+#include <QTimer>
 #include <clocale>
 
 #include "qt/CalculatorWindow.h"
+#include "qt/HelpWindow.h"
 #include "qt/QtPlatform.h"
 #include "termination_signals.h"
 #include "ui/DYXWindowController.h"
@@ -17,6 +19,7 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     talvex::QtPlatform platform;
     talvex::DYXWindowController controller(platform);
+    const talvex::HelpPresenter help(controller);
     talvex::CalculatorWindow window(controller);
     const talvex::TerminationSignals terminationSignals;
     QObject::connect(&application, &QGuiApplication::applicationStateChanged, &window,
@@ -30,5 +33,13 @@ int main(int argc, char** argv) {
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, terminate,
                      Qt::DirectConnection);
     window.show();
+    if (controller.views().help.window.isVisible()) {
+        // Once the calculator is there, and behind it.
+        QTimer::singleShot(0, &window, [&controller, &window] {
+            controller.views().help.window.makeKeyAndOrderFront();
+            window.raise();
+            window.activateWindow();
+        });
+    }
     return QApplication::exec();
 }

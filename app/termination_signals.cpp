@@ -33,7 +33,7 @@ TerminationSignals::TerminationSignals()
     QObject::connect(&notifier_, &QSocketNotifier::activated, [this] {
         char byte = 0;
         [[maybe_unused]] const ssize_t count = ::read(pipe_[0], &byte, 1);
-        QCoreApplication::quit();
+        QCoreApplication::exit(0);
     });
     struct sigaction action {};
     action.sa_handler = wake;

@@ -61,36 +61,34 @@ QImage sheetOf(const std::vector<Picture>& pictures, int width) {
 // A stack with something on every line.
 void fillStack(Stage& stage) { stage.type(u"1234.5678\r2q\r3r\r1.5"); }
 
+Picture pictureOf(const WindowLayout& layout) {
+    Stage stage;
+    fillStack(stage);
+    DYXWindowController& controller = stage.controller();
+    if (layout.displayViewMode == 1) {
+        controller.takeShowYZTRegistersFrom();
+    }
+    if (layout.showStatusLine) {
+        controller.takeShowStatusLineFrom();
+        controller.views().keyPad.button(u"unitGSIN").pointerMoved(NSPoint{1.0, 1.0});
+    }
+    if (layout.keyPadHidden) {
+        controller.takeShowKeyPadFrom();
+    }
+    return {QStringLiteral("%1%2%3").arg(layout.keyPadHidden ? "display" : "key pad",
+                                         layout.displayViewMode == 1 ? ", four lines" : "",
+                                         layout.showStatusLine ? ", status line" : ""),
+            stage.picture()};
+}
+
 std::vector<Picture> layouts() {
     std::vector<Picture> pictures;
-    for (const bool keyPadHidden : {false, true}) {
-        for (const bool fourLines : {false, true}) {
-            for (const bool statusLine : {false, true}) {
-                if (keyPadHidden && statusLine) {
-                    continue;
-                }
-                Stage stage;
-                fillStack(stage);
-                if (fourLines) {
-                    stage.controller().takeShowYZTRegistersFrom();
-                }
-                if (statusLine) {
-                    stage.controller().takeShowStatusLineFrom();
-                    stage.controller()
-                        .views()
-                        .keyPad.button(u"unitGSIN")
-                        .pointerMoved(NSPoint{1.0, 1.0});
-                }
-                if (keyPadHidden) {
-                    stage.controller().takeShowKeyPadFrom();
-                }
-                pictures.push_back(
-                    {QStringLiteral("%1%2%3").arg(keyPadHidden ? "display" : "key pad",
-                                                  fourLines ? ", four lines" : "",
-                                                  statusLine ? ", status line" : ""),
-                     stage.picture()});
-            }
-        }
+    for (const WindowLayout& layout :
+         {WindowLayout{}, WindowLayout{.showStatusLine = true}, WindowLayout{.displayViewMode = 1},
+          WindowLayout{.displayViewMode = 1, .showStatusLine = true},
+          WindowLayout{.keyPadHidden = true},
+          WindowLayout{.keyPadHidden = true, .displayViewMode = 1}}) {
+        pictures.push_back(pictureOf(layout));
     }
     return pictures;
 }

@@ -23,6 +23,11 @@ class HeadlessPlatform final : public Platform {
     [[nodiscard]] std::string NSHomeDirectory() const override { return home; }
     [[nodiscard]] std::vector<NSRect> visibleFramesOfScreens() const override { return screens; }
     [[nodiscard]] std::uint32_t GetCurrentButtonState() const override { return mouseButtons; }
+    void openURL(const std::u16string& url) override { openedURLs.push_back(url); }
+    [[nodiscard]] std::string resourcePath() const override { return resources; }
+    [[nodiscard]] std::u16string localizedString(std::u16string_view key) const override {
+        return std::u16string(key);
+    }
     void terminate() override { isTerminated = true; }
 
     int beeps = 0;
@@ -33,6 +38,8 @@ class HeadlessPlatform final : public Platform {
     std::string home;  // none, unless a test gives one
     std::vector<NSRect> screens{{.width = 1920.0, .height = 1080.0}};
     std::uint32_t mouseButtons = 0;
+    std::vector<std::u16string> openedURLs;
+    std::string resources = "/resources";
     bool isTerminated = false;
 };
 

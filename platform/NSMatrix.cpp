@@ -51,6 +51,15 @@ void NSMatrix::selectCellAtRowColumn(int row, int column) {
     }
 }
 
+void NSMatrix::selectCellWithTag(int tag) {
+    for (int place = 0; place < rows_ * columns_; ++place) {
+        if (cellAt(place / columns_, place % columns_).tag == tag) {
+            selectCellAtRowColumn(place / columns_, place % columns_);
+            return;
+        }
+    }
+}
+
 void NSMatrix::performClickAt(int row, int column) {
     if (!hasCell(row, column) || !cellAt(row, column).enabled) {
         return;

@@ -21,6 +21,7 @@ struct NSButtonCell {
     int showsStateBy = 0;
     int state = 0;  // 1 on
     bool enabled = true;
+    int tag = 0;  // what the cell stands for
 
     bool operator==(const NSButtonCell&) const = default;
 };
@@ -50,6 +51,9 @@ class NSMatrix : public NSView {
     [[nodiscard]] int selectedColumn() const { return selectedColumn_; }
     // Makes the cell the only one that is on; does nothing if there is no such cell.
     void selectCellAtRowColumn(int row, int column);
+
+    // Does nothing if no cell has the tag.
+    void selectCellWithTag(int tag);
 
     void setAction(std::function<void(NSMatrix&)> action) { action_ = std::move(action); }
     // A click on the cell: selects it and sends the action, unless it is disabled.

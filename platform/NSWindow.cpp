@@ -44,6 +44,19 @@ void NSWindow::setFrameTopLeftPoint(const NSPoint& point) {
     setFrame(frame);
 }
 
+void NSWindow::makeKeyAndOrderFront() {
+    visible_ = true;
+    notify();
+    if (observer_ != nullptr) {
+        observer_->windowDidOrderFront(*this);
+    }
+}
+
+void NSWindow::orderOut() {
+    visible_ = false;
+    notify();
+}
+
 void NSWindow::setContentView(std::shared_ptr<NSView> view) {
     contentView_ = std::move(view);
     contentView_->window_ = this;

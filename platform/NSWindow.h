@@ -27,6 +27,8 @@ class NSWindow;
 class NSWindowObserver {
   public:
     virtual void windowDidChange(const NSWindow& window) = 0;
+    // The window is to come to the front of the others.
+    virtual void windowDidOrderFront(const NSWindow& /*window*/) {}
     // The next change is to be a motion.
     virtual void windowWillAnimate(const NSWindow& /*window*/) {}
 
@@ -60,6 +62,11 @@ class NSWindow {
     [[nodiscard]] NSResponder* delegate() const { return delegate_; }
     void setDelegate(NSResponder* delegate) { delegate_ = delegate; }
 
+    // Whether the window is on the screen, which it isn't at first.
+    [[nodiscard]] bool isVisible() const { return visible_; }
+    void makeKeyAndOrderFront();
+    void orderOut();
+
     void makeFirstResponder(NSView* view) { firstResponder_ = view; }
     // Hands a key event to the first responder. Whether a key was taken; changes of the modifier
     // keys always are.
@@ -71,6 +78,7 @@ class NSWindow {
     void notify();
 
     std::u16string title_;
+    bool visible_ = false;
     NSRect frame_;
     std::shared_ptr<NSView> frameView_ = std::make_shared<NSView>();
     std::shared_ptr<NSView> contentView_;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/NSGeometry.h"
@@ -86,6 +87,26 @@ class MousePort {
     ~MousePort() = default;
 };
 
+class WorkspacePort {
+  public:
+    // Hands the URL to the user's own program for it; a failure isn't told.
+    virtual void openURL(const std::u16string& url) = 0;
+
+  protected:
+    ~WorkspacePort() = default;
+};
+
+class BundlePort {
+  public:
+    // The folder of the pages and pictures that come with the program, in UTF-8.
+    [[nodiscard]] virtual std::string resourcePath() const = 0;
+    // The title in the user's language; the key itself where the table has no entry.
+    [[nodiscard]] virtual std::u16string localizedString(std::u16string_view key) const = 0;
+
+  protected:
+    ~BundlePort() = default;
+};
+
 class ApplicationPort {
   public:
     // Ends the program; the controller still hears that it will.
@@ -104,6 +125,8 @@ class Platform : public AlertPort,
                  public FilePort,
                  public ScreenPort,
                  public MousePort,
+                 public WorkspacePort,
+                 public BundlePort,
                  public ApplicationPort {
   public:
     virtual ~Platform() = default;

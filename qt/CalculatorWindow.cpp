@@ -9,6 +9,7 @@
 
 #include "qt/BodyWidget.h"
 #include "qt/DrawerWidget.h"
+#include "qt/KeyButton.h"
 #include "qt/PanelWidget.h"
 #include "qt/frame_extents.h"
 #include "qt/menus.h"
@@ -188,8 +189,25 @@ void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) {
     }
 }
 
+// Over a key the menu begins with the help on that key.
 void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
-    popUpMenu(controller_.views().menu, event->globalPos(), *this);
+    NSMenu menu = controller_.views().menu;
+    const auto* const key = dynamic_cast<const KeyButton*>(childAt(event->pos()));
+    if (key != nullptr && !key->record().alternateTitle().empty()) {
+        NSMenuItem item;
+        item.title = controller_.localized(u"Help on") + u" \u201C" +
+                     key->record().accessibilityLabel() + u"\u201D";
+        item.action = [this, command = key->record().alternateTitle()](const NSMenuItem&) {
+            controller_.showHelpFor(command);
+        };
+        menu.items.insert(menu.items.begin(), {std::move(item), NSMenuItem{}});
+    }
+    popUpMenu(menu, event->globalPos(), *this);
+}
+
+void CalculatorWindow::closeEvent(QCloseEvent* event) {
+    QWidget::closeEvent(event);
+    controller_.terminate();
 }
 
 void CalculatorWindow::showEvent(QShowEvent* event) {

@@ -29,6 +29,7 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     [[nodiscard]] QRegion visibleRegion() const;
 
   protected:
+    void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -12,6 +12,8 @@ class KeyButton final : public ControlButton {
   public:
     KeyButton(NSButton& record, KeyGroup group, QWidget* parent);
 
+    [[nodiscard]] const NSButton& record() const { return record_; }
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     // The record's state decides whether the key is on.

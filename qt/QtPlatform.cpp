@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QLocale>
@@ -9,11 +10,15 @@
 #include <QMimeData>
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QUrl>
 
 #include "qt/conversions.h"
 
 namespace talvex {
 namespace {
+
+// The files of titles are called so, and their entries' context.
+constexpr auto kTitleContext = "titles";
 
 const QLoggingCategory& category() {
     static const QLoggingCategory talvex("talvex", QtWarningMsg);
@@ -31,6 +36,13 @@ std::uint32_t groupingSizeOf(const QLocale& locale) {
 }
 
 }  // namespace
+
+QtPlatform::QtPlatform() {
+    const QString folder = QString::fromStdString(resourcePath());
+    if (titles_.load(QLocale::system(), kTitleContext, QStringLiteral("_"), folder)) {
+        QCoreApplication::installTranslator(&titles_);
+    }
+}
 
 void QtPlatform::NSBeep() { QApplication::beep(); }
 
@@ -81,6 +93,26 @@ std::uint32_t QtPlatform::GetCurrentButtonState() const {
     return static_cast<std::uint32_t>(QGuiApplication::mouseButtons().toInt());
 }
 
-void QtPlatform::terminate() { QCoreApplication::quit(); }
+void QtPlatform::openURL(const std::u16string& url) { QDesktopServices::openUrl(toQString(url)); }
+
+// Beside the program as it is built, or where it is installed.
+std::string QtPlatform::resourcePath() const {
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const char* const folder : {"Resources", "../share/talvex/Resources"}) {
+        if (program.exists(QLatin1String(folder))) {
+            return QDir::cleanPath(program.filePath(QLatin1String(folder))).toStdString();
+        }
+    }
+    return program.filePath("Resources").toStdString();
+}
+
+std::u16string QtPlatform::localizedString(std::u16string_view key) const {
+    const QByteArray source = QStringView(key).toUtf8();
+    const QString title = QCoreApplication::translate(kTitleContext, source.constData());
+    return title.toStdU16String();
+}
+
+// The windows stay as they are until the state is saved.
+void QtPlatform::terminate() { QCoreApplication::exit(0); }
 
 }  // namespace talvex

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QTranslator>
+
 #include "platform/Platform.h"
 
 namespace talvex {
@@ -7,6 +9,9 @@ namespace talvex {
 // The real desktop behind the ports.
 class QtPlatform final : public Platform {
   public:
+    // Needs the application. Takes the titles of the desktop's language where there are such.
+    QtPlatform();
+
     void NSBeep() override;
     // Shown when the logging category "talvex" is switched on.
     void NSLog(const std::u16string& line) override;
@@ -18,7 +23,13 @@ class QtPlatform final : public Platform {
     [[nodiscard]] std::string NSHomeDirectory() const override;
     [[nodiscard]] std::vector<NSRect> visibleFramesOfScreens() const override;
     [[nodiscard]] std::uint32_t GetCurrentButtonState() const override;
+    void openURL(const std::u16string& url) override;
+    [[nodiscard]] std::string resourcePath() const override;
+    [[nodiscard]] std::u16string localizedString(std::u16string_view key) const override;
     void terminate() override;
+
+  private:
+    QTranslator titles_;
 };
 
 }  // namespace talvex

@@ -76,12 +76,15 @@ void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
 TitleBar::TitleBar(DYXWindowController& controller, QWidget* parent)
     : QWidget(parent),
       window_(controller.views().window),
-      close_(new TitleBarButton(TitleBarButton::Sign::close, QStringLiteral("close"), this)),
-      minimise_(
-          new TitleBarButton(TitleBarButton::Sign::minimise, QStringLiteral("minimise"), this)),
+      close_(new TitleBarButton(TitleBarButton::Sign::close,
+                                toQString(controller.localized(u"close")), this)),
+      minimise_(new TitleBarButton(TitleBarButton::Sign::minimise,
+                                   toQString(controller.localized(u"minimise")), this)),
       keyPad_(new TitleBarButton(TitleBarButton::Sign::keyPad,
-                                 QStringLiteral("show or hide the key pad"), this)),
-      menuButton_(new TitleBarButton(TitleBarButton::Sign::menu, QStringLiteral("menu"), this)) {
+                                 toQString(controller.localized(u"show or hide the key pad")),
+                                 this)),
+      menuButton_(new TitleBarButton(TitleBarButton::Sign::menu,
+                                     toQString(controller.localized(u"menu")), this)) {
     new TitleBarButton(*controller.views().xyztButton, this);
     new TitleBarButton(*controller.views().statusButton, this);
     connect(keyPad_, &QAbstractButton::clicked, this,

@@ -3,6 +3,8 @@ real key and mouse events, the screen's pixels and the sound of its bell."""
 import contextlib
 import ctypes
 import os
+import pathlib
+import plistlib
 import subprocess
 import tempfile
 import time
@@ -77,12 +79,18 @@ def has_window_manager():
 
 @contextlib.contextmanager
 def desktop(size="1280x1024x24"):
-    """An X server with a window manager; DISPLAY leads to it. HOME is an empty folder."""
+    """An X server with a window manager; DISPLAY leads to it. HOME is a folder with a saved state
+    that says no more than that the help was closed and digits are copied without groups."""
     reader, writer = os.pipe()
     server = ["Xvfb", "-displayfd", str(writer), "-screen", "0", size, "-nolisten", "tcp", "-noreset"]
     with tempfile.TemporaryDirectory() as home, \
             running(server, pass_fds=[writer], stderr=subprocess.DEVNULL):
         os.environ["HOME"] = home
+        preferences = pathlib.Path(home, "Library/Preferences")
+        preferences.mkdir(parents=True)
+        state = {"helpPanelVisible": False, "includeDigitGroupingWhenCopying": False}
+        with open(preferences / "com.Quondel.TalvexV1.2.data.plist", "wb") as file:
+            plistlib.dump(state, file)
         os.close(writer)
         with os.fdopen(reader) as numbers:
             os.environ["DISPLAY"] = ":" + numbers.readline().strip()

@@ -40,6 +40,7 @@ DYXWindowController::DYXWindowController(Platform& platform, std::unique_ptr<Win
     updateFonts();
     views_->window.setFrame(
         centerRectOnScreen(platform.visibleFramesOfScreens(), views_->window.frame()));
+    connectHelp();
     loadData();
     syncDisplays();
     updateLabels();
@@ -47,6 +48,8 @@ DYXWindowController::DYXWindowController(Platform& platform, std::unique_ptr<Win
     updateDisplay();
     updateButtons();
     takeHPStylePowerAndLogsFrom(std::nullopt);
+    takeShowHelpFrame(views_->help.matrix.get());
+    views_->window.makeKeyAndOrderFront();
     showStatusLines();
 }
 

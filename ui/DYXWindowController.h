@@ -28,6 +28,7 @@ class DYXWindowController final : public DYXCalculator,
     explicit DYXWindowController(Platform& platform);
 
     [[nodiscard]] WindowViews& views() { return *views_; }
+    [[nodiscard]] const WindowViews& views() const { return *views_; }
     [[nodiscard]] const WindowLayout& layout() const { return layout_; }
     [[nodiscard]] const DYXSettings& settings() const { return settings_; }
     [[nodiscard]] const HotKeys& hotKeys() const { return *hotKeys_; }
@@ -97,6 +98,27 @@ class DYXWindowController final : public DYXCalculator,
     void drawerDidClose(NSDrawer& drawer) override;
     void drawerStateDidChange(NSDrawer& drawer) override;
 
+    // A title in the user's language.
+    [[nodiscard]] std::u16string localized(std::u16string_view key) const {
+        return platform().localizedString(key);
+    }
+
+    // The help, in help_window.cpp: shows the page of the sender's selected cell, or the first one.
+    void takeShowHelpFrame(const NSMatrix* sender);
+    // Shows the help with its selected page loaded afresh, or hides it.
+    void takeToggleHelpWindowFrom();
+    // Shows what the help tells about the command of a key.
+    void showHelpFor(std::u16string_view command);
+    // Steps above the normal size of the text.
+    [[nodiscard]] std::int32_t helpViewTextSize() const { return helpViewTextSize_; }
+    void setHelpViewTextToSize(std::int32_t size);
+    void takeMakeHelpTextLargerFrom();
+    void takeMakeHelpTextSmallerFrom();
+    void takeMakeHelpTextNormalFrom();
+    // Web and mail go to the user's own programs, all else stays in the view.
+    void webViewDecidePolicyForNavigationActionRequestFrameDecisionListener(
+        const std::u16string& url, WebPolicyDecisionListener& listener);
+
     // The value of a memory register, and the exponent that a key enters.
     [[nodiscard]] std::optional<NSAttributedString> statusLineForView(
         const NSView& view) const override;
@@ -133,7 +155,7 @@ class DYXWindowController final : public DYXCalculator,
     // Asks the desktop to end the program.
     void terminate() { platform().terminate(); }
     // Whether the file of the saved state told where the window stands.
-    [[nodiscard]] bool hasSavedFrame() const { return remembered_.calculatorFrame.has_value(); }
+    [[nodiscard]] bool hasSavedFrame() const { return hasSavedFrame_; }
     // The program ends: a live entry is finished as by ENTER, and the state saved.
     void applicationWillTerminate();
 
@@ -157,6 +179,10 @@ class DYXWindowController final : public DYXCalculator,
     void setUnlocked(bool isUnlocked);
     void applyState(const SavedState& state);
     void openDrawers(const SavedState& state);
+    void connectHelp();
+    void showHelpPlace(const std::u16string& place);
+    void applyHelpState(const SavedState& state);
+    void storeHelpState(SavedState& state) const;
     void setShowStatusLine(bool show);
     void finishHidingKeyPad();
     void closeDrawersForKeyPad();
@@ -173,7 +199,8 @@ class DYXWindowController final : public DYXCalculator,
     WindowLayout layout_;
     DYXSettings settings_;
     StateFile stateFile_;
-    SavedState remembered_;  // of the file, what no part of the window holds
+    bool hasSavedFrame_ = false;
+    std::int32_t helpViewTextSize_ = 0;
 };
 
 }  // namespace talvex

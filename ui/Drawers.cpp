@@ -50,8 +50,8 @@ const Drawer& Drawers::operator[](DrawerName name) const {
 }
 
 Drawer& Drawers::of(const NSDrawer& record) {
-    const auto drawer = std::find_if(drawers_.begin(), drawers_.end(),
-                                     [&](const Drawer& each) { return &each.record == &record; });
+    auto* const drawer = std::find_if(drawers_.begin(), drawers_.end(),
+                                      [&](const Drawer& each) { return &each.record == &record; });
     assert(drawer != drawers_.end());
     return *drawer;
 }

@@ -12,8 +12,9 @@ constexpr double kStatusFontSize = 10.0;
 
 }  // namespace
 
-KeyPad::KeyPad(LogPort& log)
-    : panel_{.view = std::make_shared<DYXStatusLineView>(keyPadViewRect()), .keys = {}} {
+KeyPad::KeyPad(Platform& platform)
+    : titles_(platform),
+      panel_{.view = std::make_shared<DYXStatusLineView>(keyPadViewRect()), .keys = {}} {
     view()->setAutoresizingMask(NSViewMinYMargin);
     auto status = std::make_shared<NSTextField>(statusLineFieldRect());
     status->setFont({.name = u"Lucida Grande", .size = kStatusFontSize});
@@ -23,19 +24,20 @@ KeyPad::KeyPad(LogPort& log)
         panel_.keys.push_back(makeKey({.frame = keyFrame(row),
                                        .command = row.command,
                                        .title = row.title,
-                                       .hint = std::u16string(row.hint),
+                                       .hint = platform.localizedString(row.hint),
                                        .group = row.group,
                                        .keyClass = row.keyClass},
-                                      log));
+                                      platform));
     }
     for (const DrawerKeyRow& row : drawerKeyRows()) {
+        const std::u16string title = platform.localizedString(row.title);
         panel_.keys.push_back(makeKey({.frame = drawerKeyFrame(drawerButtons_.size()),
                                        .command = {},
-                                       .title = row.title,
-                                       .hint = std::u16string(row.hint),
+                                       .title = title,
+                                       .hint = platform.localizedString(row.hint),
                                        .group = KeyGroup::flat,
                                        .keyClass = KeyClass::drawer},
-                                      log));
+                                      platform));
         drawerButtons_.push_back(panel_.keys.back().button);
     }
     for (const Key& key : keys()) {
@@ -79,8 +81,9 @@ bool KeyPad::showHexDigits(bool show) {
         button.setImage(std::u16string(show ? u"" : row.image));
         button.setAlternateImage(std::u16string(show ? u"" : row.alternateImage));
         button.setImagePosition(show ? NSImagePosition::noImage : NSImagePosition::imageOnly);
-        button.setToolTip(std::u16string(show ? row.hexHint : row.hint));
-        button.setAccessibilityLabel(std::u16string(show ? row.hexHint : row.hint));
+        const std::u16string hint = titles_.localizedString(show ? row.hexHint : row.hint);
+        button.setToolTip(hint);
+        button.setAccessibilityLabel(hint);
     }
     return true;
 }

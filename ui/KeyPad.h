@@ -18,7 +18,7 @@ namespace talvex {
 // the drawers, and the status line below.
 class KeyPad {
   public:
-    explicit KeyPad(LogPort& log);
+    explicit KeyPad(Platform& platform);
 
     [[nodiscard]] const std::shared_ptr<DYXStatusLineView>& view() const { return panel_.view; }
     [[nodiscard]] const std::vector<Key>& keys() const { return panel_.keys; }
@@ -39,6 +39,7 @@ class KeyPad {
     bool showHexDigits(bool show);
 
   private:
+    const BundlePort& titles_;
     Panel panel_;
     std::array<NSButton*, 6> hexButtons_{};
     std::vector<std::shared_ptr<NSButton>> drawerButtons_;

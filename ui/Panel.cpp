@@ -5,8 +5,8 @@
 
 #include "core/function_tables.h"
 #include "display/ascii_text.h"
-#include "numeric/decimal_text.h"
 #include "ui/panel_tables.h"
+#include "ui/printed_number.h"
 #include "ui/simple_tex.h"
 
 namespace talvex {
@@ -75,32 +75,17 @@ Panel makePanel(const NSSize& size, std::uint32_t statusMask) {
     return panel;
 }
 
-void addKey(Panel& panel, const KeyDescription& description, std::uint32_t mask, LogPort& log) {
-    panel.keys.push_back(makeKey(description, log));
+void addKey(Panel& panel, const KeyDescription& description, std::uint32_t mask,
+            Platform& platform) {
+    panel.keys.push_back(makeKey(description, platform));
     panel.keys.back().button->setAutoresizingMask(mask);
     panel.view->addSubview(panel.keys.back().button);
 }
 
-// A number as it is set in print: "6.626\u00D710^{\u221234}".
-std::u16string printed(double value) {
-    std::u16string text = asciiText(shortestText(value));
-    const std::size_t mark = text.find(u'e');
-    std::u16string mantissa = text.substr(0, mark);
-    if (mantissa.front() == u'-') {
-        mantissa.replace(0, 1, u"\u2212");
-    }
-    if (mark == std::u16string::npos) {
-        return mantissa;
-    }
-    std::u16string exponent = text.substr(mark + 1);
-    const bool isNegative = exponent.front() == u'-';
-    exponent.erase(0, exponent.find_first_not_of(u"+-0"));
-    return mantissa + u"\u00D710^{" + (isNegative ? u"\u2212" : u"") + exponent + u"}";
-}
-
-std::u16string constantHint(const ConstantKeyRow& row) {
+std::u16string constantHint(const ConstantKeyRow& row, const BundlePort& titles) {
     const ConstantRow* const constant = findConstant(commandFromString(row.command).action);
-    std::u16string hint = std::u16string(row.name) + u" = " + printed(constant->value);
+    std::u16string hint =
+        titles.localizedString(row.name) + u" = " + printedNumber(constant->value);
     return row.unit.empty() ? hint : hint + u' ' + std::u16string(row.unit);
 }
 
@@ -113,11 +98,11 @@ void setActions(const std::vector<Key>& keys, const std::function<void(NSButton&
 
 }  // namespace
 
-Key makeKey(const KeyDescription& description, LogPort& log) {
+Key makeKey(const KeyDescription& description, Platform& platform) {
     const std::u16string title(description.title);
     Key key{.button = {}, .group = description.group};
     if (description.keyClass == KeyClass::key) {
-        key.button = std::make_shared<DYXButton>(description.frame, title, log);
+        key.button = std::make_shared<DYXButton>(description.frame, title, platform);
     } else {
         key.button = std::make_shared<ZUModifierButton>(description.frame);
         key.button->setTitle(title);
@@ -139,7 +124,7 @@ void ConversionPanel::setKeyAction(const std::function<void(NSButton&)>& action)
     }
 }
 
-Panel makeMemoryPanel(LogPort& log) {
+Panel makeMemoryPanel(Platform& platform) {
     static constexpr int kRegisterColumns = 5;
     static constexpr int kRegisters = 20;
     static constexpr int kFirstRegisterRow = 2;
@@ -152,11 +137,12 @@ Panel makeMemoryPanel(LogPort& log) {
                                       row.columnSpan * kPitch - kKeyGap),
                 .command = row.command,
                 .title = row.title,
-                .hint = std::u16string(row.hint),
+                .hint = platform.localizedString(row.hint),
                 .group = row.group,
                 .keyClass = row.keyClass},
-               NSViewMinXMargin, log);
+               NSViewMinXMargin, platform);
     }
+    const std::u16string registerName = platform.localizedString(u"memory register");
     for (int number = 0; number < kRegisters; ++number) {
         const std::u16string digits = asciiText(std::to_string(number));
         const std::u16string command = (number < 10 ? u"memoM00" : u"memoM0") + digits;
@@ -165,14 +151,14 @@ Panel makeMemoryPanel(LogPort& log) {
                                       kMargin + number % kRegisterColumns * kPitch, kKeyWidth),
                 .command = command,
                 .title = u"M_{" + digits + u"}",
-                .hint = u"memory register " + digits,
+                .hint = registerName + u' ' + digits,
                 .group = KeyGroup::digit},
-               NSViewMinXMargin, log);
+               NSViewMinXMargin, platform);
     }
     return panel;
 }
 
-Panel makeConstantsPanel(LogPort& log) {
+Panel makeConstantsPanel(Platform& platform) {
     // The right edges of the columns, which are the places where the drawer comes to rest.
     static constexpr std::array<double, 9> kEdges{0.0,   47.0,  91.0,  133.0, 182.0,
                                                   229.0, 271.0, 313.0, 355.0};
@@ -186,16 +172,16 @@ Panel makeConstantsPanel(LogPort& log) {
                     sideKeyFrame(number % kSideRows, left, kEdges.at(column + 1) - left - kKeyGap),
                 .command = row.command,
                 .title = row.title,
-                .hint = constantHint(row),
+                .hint = constantHint(row, platform),
                 .group = KeyGroup::digit},
-               NSViewMaxXMargin, log);
-        panel.keys.back().button->setAccessibilityLabel(std::u16string(row.name));
+               NSViewMaxXMargin, platform);
+        panel.keys.back().button->setAccessibilityLabel(platform.localizedString(row.name));
         ++number;
     }
     return panel;
 }
 
-Panel makeFunctionsPanel(LogPort& log) {
+Panel makeFunctionsPanel(Platform& platform) {
     // The upper edges of the rows, from the bottom: the places where the drawer comes to rest.
     static constexpr std::array<double, 7> kEdges{47.0, 73.0, 98.0, 126.0, 153.0, 182.0, 208.0};
     Panel panel = makePanel({kWidth, kEdges.back()}, NSViewNotSizable);
@@ -205,8 +191,8 @@ Panel makeFunctionsPanel(LogPort& log) {
                                       kEdges.at(row.row) - kKeyGap - kKeyHeight),
                 .command = row.command,
                 .title = row.title,
-                .hint = std::u16string(row.hint)},
-               NSViewNotSizable, log);
+                .hint = platform.localizedString(row.hint)},
+               NSViewNotSizable, platform);
     }
     return panel;
 }
@@ -222,7 +208,7 @@ constexpr NSRect kTabFrame{.x = kWideMargin - kPageMargin,
                            .height = kPageHeight};
 constexpr double kTabButtonsHeight = 60.0;
 
-std::vector<Key> unitKeys(const UnitPage& page, LogPort& log) {
+std::vector<Key> unitKeys(const UnitPage& page, Platform& platform) {
     std::vector<Key> keys;
     for (const UnitKeyRow& unit : page.units) {
         const int number = static_cast<int>(keys.size());
@@ -233,8 +219,8 @@ std::vector<Key> unitKeys(const UnitPage& page, LogPort& log) {
                                                           rowOffset(number / kColumns)),
                                 .command = command,
                                 .title = unit.title,
-                                .hint = std::u16string(unit.name)},
-                               log));
+                                .hint = platform.localizedString(unit.name)},
+                               platform));
         keys.back().button->setAutoresizingMask(NSViewMinYMargin);
     }
     return keys;
@@ -242,17 +228,17 @@ std::vector<Key> unitKeys(const UnitPage& page, LogPort& log) {
 
 }  // namespace
 
-ConversionPanel makeConversionPanel(LogPort& log, const HotKeys& hotKeys) {
+ConversionPanel makeConversionPanel(Platform& platform, const HotKeys& hotKeys) {
     ConversionPanel panel;
     std::vector<NSTabViewItem> items;
     for (const UnitPage& page : unitPages()) {
         auto view =
             std::make_shared<NSView>(NSRect{.width = kTabFrame.width, .height = kTabFrame.height});
-        panel.pages.push_back(unitKeys(page, log));
+        panel.pages.push_back(unitKeys(page, platform));
         for (const Key& key : panel.pages.back()) {
             view->addSubview(key.button);
         }
-        items.push_back({.label = std::u16string(page.label), .view = std::move(view)});
+        items.push_back({.label = platform.localizedString(page.label), .view = std::move(view)});
     }
     panel.view = std::make_shared<NSView>(NSRect{
         .width = kWidth, .height = kTabFrame.y + kTabFrame.height + kTabButtonsHeight + kMargin});

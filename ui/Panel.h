@@ -32,7 +32,7 @@ struct KeyDescription {
 };
 
 // The record of a key: of a command key its title is rich text, of the others it's plain.
-Key makeKey(const KeyDescription& description, LogPort& log);
+Key makeKey(const KeyDescription& description, Platform& platform);
 
 // A view with its keys and a status field.
 struct Panel {
@@ -42,9 +42,9 @@ struct Panel {
     void setKeyAction(const std::function<void(NSButton&)>& action) const;
 };
 
-Panel makeMemoryPanel(LogPort& log);
-Panel makeConstantsPanel(LogPort& log);
-Panel makeFunctionsPanel(LogPort& log);
+Panel makeMemoryPanel(Platform& platform);
+Panel makeConstantsPanel(Platform& platform);
+Panel makeFunctionsPanel(Platform& platform);
 
 // The conversion drawer: the tab view with the keys of each page, and a status field.
 struct ConversionPanel {
@@ -55,6 +55,6 @@ struct ConversionPanel {
     void setKeyAction(const std::function<void(NSButton&)>& action) const;
 };
 
-ConversionPanel makeConversionPanel(LogPort& log, const HotKeys& hotKeys);
+ConversionPanel makeConversionPanel(Platform& platform, const HotKeys& hotKeys);
 
 }  // namespace talvex

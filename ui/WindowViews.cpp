@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ui/help_pages.h"
 #include "ui/window_layout.h"
 
 namespace talvex {
@@ -10,6 +11,7 @@ namespace {
 constexpr double kLabelFontSize = 10.0;
 constexpr double kStatusFontSize = 10.0;
 constexpr double kPopUpFontSize = 10.0;
+constexpr NSSize kHelpSize{760.0, 640.0};
 const NSFont kProportional{.name = u"Lucida Grande", .size = 13.0};
 
 TextSlot makeField(NSView& superview, const NSRect& frame, double fontSize, std::uint32_t mask) {
@@ -69,20 +71,40 @@ std::shared_ptr<NSButton> makeTitleBarButton(double fromRight, const std::u16str
 
 }  // namespace
 
-WindowViews::WindowViews(LogPort& log, const HotKeys& hotKeys)
+HelpViews::HelpViews()
+    : matrix(std::make_shared<NSMatrix>(NSRect{}, NSMatrixMode::radio,
+                                        static_cast<int>(helpPages().size()), 1)) {
+    int row = 0;
+    for (const HelpPage& page : helpPages()) {
+        NSButtonCell cell;
+        cell.title = page.title;
+        cell.tag = page.tag;
+        matrix->setCellAt(row++, 0, std::move(cell));
+    }
+    matrix->selectCellAtRowColumn(0, 0);
+    window.setTitle(u"Talvex Help");
+    window.setFrame({.width = kHelpSize.width, .height = kHelpSize.height});
+}
+
+WindowViews::WindowViews(Platform& platform, const HotKeys& hotKeys)
     : contentView(std::make_shared<DYXView>(contentFrame({}))),
       displayView(std::make_shared<DYXDisplayView>(displayViewRect())),
       xFields(makeFields(*displayView)),
-      inputModePopUp(makePopUp(*displayView, inputModePopUpRect(), u"inp", u"input mode")),
-      outputModePopUp(makePopUp(*displayView, outputModePopUpRect(), u"out", u"output mode")),
-      angleModePopUp(makePopUp(*displayView, angleModePopUpRect(), u"ang", u"angle mode")),
-      xyztButton(makeTitleBarButton(25.0, u"xyztOn", u"xyztOff", u"show the registers Y, Z and T")),
-      statusButton(makeTitleBarButton(44.0, u"statusOn", u"statusOff", u"show the status line")),
-      keyPad(log),
-      memoryPanel(makeMemoryPanel(log)),
-      constantsPanel(makeConstantsPanel(log)),
-      functionsPanel(makeFunctionsPanel(log)),
-      conversionPanel(makeConversionPanel(log, hotKeys)) {
+      inputModePopUp(makePopUp(*displayView, inputModePopUpRect(), u"inp",
+                               platform.localizedString(u"input mode"))),
+      outputModePopUp(makePopUp(*displayView, outputModePopUpRect(), u"out",
+                                platform.localizedString(u"output mode"))),
+      angleModePopUp(makePopUp(*displayView, angleModePopUpRect(), u"ang",
+                               platform.localizedString(u"angle mode"))),
+      xyztButton(makeTitleBarButton(25.0, u"xyztOn", u"xyztOff",
+                                    platform.localizedString(u"show the registers Y, Z and T"))),
+      statusButton(makeTitleBarButton(44.0, u"statusOn", u"statusOff",
+                                      platform.localizedString(u"show the status line"))),
+      keyPad(platform),
+      memoryPanel(makeMemoryPanel(platform)),
+      constantsPanel(makeConstantsPanel(platform)),
+      functionsPanel(makeFunctionsPanel(platform)),
+      conversionPanel(makeConversionPanel(platform, hotKeys)) {
     displayView->setAutoresizingMask(NSViewWidthSizable | NSViewMinYMargin);
     contentView->addSubview(displayView);
     contentView->addSubview(keyPad.view());

@@ -5,16 +5,26 @@
 #include "display/DYXOutputDisplay.h"
 #include "platform/NSPopUpButton.h"
 #include "platform/NSWindow.h"
+#include "platform/WebView.h"
 #include "ui/DYXView.h"
 #include "ui/KeyPad.h"
 #include "ui/Panel.h"
 
 namespace talvex {
 
+// The records of the help window: the matrix of its pages and the view that shows one.
+struct HelpViews {
+    HelpViews();
+
+    NSWindow window;
+    std::shared_ptr<NSMatrix> matrix;
+    WebView webView;
+};
+
 // The records of the calculator window and of everything in it, in the layout that it starts with.
 struct WindowViews {
     // The hot keys have to outlive the views.
-    WindowViews(LogPort& log, const HotKeys& hotKeys);
+    WindowViews(Platform& platform, const HotKeys& hotKeys);
 
     // Of the key pad and of all drawers.
     [[nodiscard]] std::vector<Key> allKeys() const;
@@ -34,6 +44,7 @@ struct WindowViews {
     Panel constantsPanel;
     Panel functionsPanel;
     ConversionPanel conversionPanel;
+    HelpViews help;
 };
 
 }  // namespace talvex

@@ -48,19 +48,19 @@ void DYXWindowController::toggleDrawer(NSDrawer& drawer) {
 }
 
 // A drag has ended when the mouse is up and the size comes a second time.
-NSSize DYXWindowController::drawerWillResizeContentsToSize(NSDrawer& record, const NSSize& size) {
-    Drawer& drawer = drawers_.of(record);
+NSSize DYXWindowController::drawerWillResizeContentsToSize(NSDrawer& drawer, const NSSize& size) {
+    Drawer& dragged = drawers_.of(drawer);
     const bool isMouseUp = (platform().GetCurrentButtonState() & kPrimaryButton) == 0;
-    if (drawer.trackedView != nullptr) {
-        drawer.trackedView->removeTrackingRects();
+    if (dragged.trackedView != nullptr) {
+        dragged.trackedView->removeTrackingRects();
     }
     NSSize result = size;
-    if (isMouseUp && size == drawer.lastSize) {
-        result = slideDrawerToPositionsNearestTo(record, drawer.positions, size);
+    if (isMouseUp && size == dragged.lastSize) {
+        result = slideDrawerToPositionsNearestTo(drawer, dragged.positions, size);
     }
-    drawer.lastSize = result;
-    if (drawer.trackedView != nullptr && settings_.statusLinesEnabled) {
-        drawer.trackedView->addTrackingRects(*hotKeys_);
+    dragged.lastSize = result;
+    if (dragged.trackedView != nullptr && settings_.statusLinesEnabled) {
+        dragged.trackedView->addTrackingRects(*hotKeys_);
     }
     return result;
 }

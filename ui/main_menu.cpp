@@ -31,9 +31,9 @@ constexpr std::array<Choice, 3> kFonts{{{u"By Mode", 0}, {u"Proportional", 1}, {
 
 NSMenuItem separator() { return {}; }
 
-NSMenuItem submenu(std::u16string_view title, NSMenu menu) {
+NSMenuItem submenu(const Controller& controller, std::u16string_view title, NSMenu menu) {
     NSMenuItem item;
-    item.title = title;
+    item.title = controller.localized(title);
     item.submenu = std::move(menu);
     return item;
 }
@@ -41,7 +41,7 @@ NSMenuItem submenu(std::u16string_view title, NSMenu menu) {
 NSMenuItem choiceItem(Controller& controller, const std::u16string& title, int tag, Choose choose,
                       Value value) {
     NSMenuItem item;
-    item.title = title;
+    item.title = controller.localized(title);
     item.tag = tag;
     item.action = [&controller, choose](const NSMenuItem& chosen) { (controller.*choose)(chosen); };
     item.validation = [&controller, value](NSMenuItem& shown) {
@@ -65,7 +65,7 @@ NSMenu choiceMenu(Controller& controller, const Choices& choices, Choose choose,
 NSMenuItem switchItem(Controller& controller, std::u16string_view title, Choose choose,
                       Question isOn) {
     NSMenuItem item;
-    item.title = title;
+    item.title = title.empty() ? u"" : controller.localized(title);
     item.action = [&controller, choose](const NSMenuItem& chosen) { (controller.*choose)(chosen); };
     item.validation = [&controller, isOn](NSMenuItem& shown) {
         shown.state = isOn(controller) ? 1 : 0;
@@ -76,7 +76,7 @@ NSMenuItem switchItem(Controller& controller, std::u16string_view title, Choose 
 NSMenuItem commandItem(Controller& controller, std::u16string_view title, void (*run)(Controller&),
                        std::vector<std::u16string> keys = {}) {
     NSMenuItem item;
-    item.title = title;
+    item.title = title.empty() ? u"" : controller.localized(title);
     item.action = [&controller, run](const NSMenuItem&) { run(controller); };
     item.keyEquivalents = std::move(keys);
     return item;
@@ -85,10 +85,10 @@ NSMenuItem commandItem(Controller& controller, std::u16string_view title, void (
 // An item whose title tells what it would do.
 NSMenuItem alternatingItem(NSMenuItem item, const Controller& controller, Question isOn,
                            std::u16string_view whenOn, std::u16string_view whenOff) {
-    item.title = isOn(controller) ? whenOn : whenOff;
     item.validation = [&controller, isOn, whenOn, whenOff](NSMenuItem& shown) {
-        shown.title = isOn(controller) ? whenOn : whenOff;
+        shown.title = controller.localized(isOn(controller) ? whenOn : whenOff);
     };
+    item.validation(item);
     return item;
 }
 
@@ -108,8 +108,8 @@ bool isUnlocked(const Controller& controller) {
 NSMenu modesMenu(Controller& controller) {
     NSMenu menu;
     menu.items = {
-        submenu(u"Input", inputModeMenu(controller)),
-        submenu(u"Output", outputModeMenu(controller)), separator(),
+        submenu(controller, u"Input", inputModeMenu(controller)),
+        submenu(controller, u"Output", outputModeMenu(controller)), separator(),
         alternatingItem(
             switchItem(controller, u"", &Controller::takeLockOutputAndInputFrom, isUnlocked),
             controller, isUnlocked, u"Lock Output to Input", u"Unlock Output from Input")};
@@ -129,25 +129,25 @@ NSMenu digitsMenu(Controller& controller) {
 NSMenu formatMenu(Controller& controller) {
     NSMenu menu;
     menu.items = {
-        submenu(u"Decimal Separator",
+        submenu(controller, u"Decimal Separator",
                 choiceMenu(controller, kDecimals, &Controller::takeDecimalModeFrom,
                            [](const Controller& now) -> std::int64_t {
                                return now.settings().decimalMode;
                            })),
-        submenu(u"Separator of Groups",
+        submenu(controller, u"Separator of Groups",
                 choiceMenu(controller, kSeparators, &Controller::takeDigitGroupingSeparatorFrom,
                            [](const Controller& now) -> std::int64_t {
                                return now.settings().digitGroupingSeparatorMode;
                            })),
-        submenu(u"Digits in a Group",
+        submenu(controller, u"Digits in a Group",
                 choiceMenu(controller, kGroups, &Controller::takeDigitGroupingDigitsFrom,
                            [](const Controller& now) -> std::int64_t {
                                return now.settings().digitGroupingDigitsMode;
                            })),
-        submenu(u"Font", choiceMenu(controller, kFonts, &Controller::takeFontModeFrom,
-                                    [](const Controller& now) -> std::int64_t {
-                                        return now.settings().fontMode;
-                                    })),
+        submenu(controller, u"Font",
+                choiceMenu(
+                    controller, kFonts, &Controller::takeFontModeFrom,
+                    [](const Controller& now) -> std::int64_t { return now.settings().fontMode; })),
         separator(),
         switchItem(controller, u"Reduce Carpentry Fractions",
                    &Controller::takeCarpentryFractionsReducedFrom,
@@ -224,6 +224,23 @@ NSMenu drawersMenu(Controller& controller) {
     return menu;
 }
 
+NSMenu helpMenu(Controller& controller) {
+    const auto isShown = [](const Controller& now) { return now.views().help.window.isVisible(); };
+    NSMenu menu;
+    menu.items = {alternatingItem(
+                      commandItem(controller, u"",
+                                  [](Controller& now) { now.takeToggleHelpWindowFrom(); }, {u"F1"}),
+                      controller, isShown, u"Hide Help", u"Show Help"),
+                  separator(),
+                  commandItem(controller, u"Larger Text",
+                              [](Controller& now) { now.takeMakeHelpTextLargerFrom(); }),
+                  commandItem(controller, u"Smaller Text",
+                              [](Controller& now) { now.takeMakeHelpTextSmallerFrom(); }),
+                  commandItem(controller, u"Normal Text",
+                              [](Controller& now) { now.takeMakeHelpTextNormalFrom(); })};
+    return menu;
+}
+
 NSMenu editMenu(Controller& controller) {
     NSMenu menu;
     menu.items = {
@@ -267,13 +284,14 @@ NSMenu angleModeMenu(Controller& controller) {
 NSMenu mainMenu(Controller& controller) {
     NSMenu menu;
     menu.items = {
-        submenu(u"Edit", editMenu(controller)),
-        submenu(u"Modes", modesMenu(controller)),
-        submenu(u"Angle", angleModeMenu(controller)),
-        submenu(u"Digits", digitsMenu(controller)),
-        submenu(u"Format", formatMenu(controller)),
-        submenu(u"View", viewMenu(controller)),
-        submenu(u"Drawers", drawersMenu(controller)),
+        submenu(controller, u"Edit", editMenu(controller)),
+        submenu(controller, u"Modes", modesMenu(controller)),
+        submenu(controller, u"Angle", angleModeMenu(controller)),
+        submenu(controller, u"Digits", digitsMenu(controller)),
+        submenu(controller, u"Format", formatMenu(controller)),
+        submenu(controller, u"View", viewMenu(controller)),
+        submenu(controller, u"Drawers", drawersMenu(controller)),
+        submenu(controller, u"Help", helpMenu(controller)),
         separator(),
         commandItem(controller, u"Save", [](Controller& now) { now.saveDocument(); }),
         commandItem(controller, u"Revert to Saved",

@@ -23,7 +23,7 @@ constexpr std::array<SavedDrawer, 4> kSavedDrawers{{
 }  // namespace
 
 SavedState DYXWindowController::presentState() const {
-    SavedState state = remembered_;
+    SavedState state;
     state.reg = stack().reg;
     std::copy_n(mem().begin(), state.mem.size(), state.mem.begin());
     state.lastX = stack().lastX;
@@ -58,6 +58,7 @@ SavedState DYXWindowController::presentState() const {
     }
     state.conversionTabSelection = views_->conversionPanel.tabView->indexOfSelectedItem();
     state.calculatorFrame = views_->window.frame();
+    storeHelpState(state);
     return state;
 }
 
@@ -88,6 +89,7 @@ void DYXWindowController::applyState(const SavedState& state) {
     for (const SavedDrawer& saved : kSavedDrawers) {
         drawers_[saved.name].wasOpen = state.*saved.wasOpen;
     }
+    applyHelpState(state);
     if (const auto& frame = state.calculatorFrame) {
         setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(
             {frame->x, frame->y + frame->height}, state.keyPadHidden, state.displayViewMode,
@@ -111,8 +113,10 @@ void DYXWindowController::saveData() { static_cast<void>(stateFile_.write(presen
 
 void DYXWindowController::loadData() {
     if (const std::optional<SavedState> state = stateFile_.read()) {
-        remembered_ = *state;
+        hasSavedFrame_ = state->calculatorFrame.has_value();
         applyState(*state);
+    } else {
+        views_->help.window.makeKeyAndOrderFront();
     }
 }
 

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace talvex {
+
+// What the help tells about a function besides its name: for which numbers it has a meaning, and
+// what it shows where it has none.
+struct FunctionNote {
+    std::u16string_view command;
+    std::u16string_view domain;
+    std::u16string_view failure;  // empty if there is none
+};
+
+[[nodiscard]] std::span<const FunctionNote> functionNotes();
+
+}  // namespace talvex

@@ -1,0 +1,83 @@
+#include <array>
+
+#include "help/function_notes.h"
+
+namespace talvex {
+namespace {
+
+constexpr std::array<FunctionNote, 64> kNotes{{
+    {u"unitGSIN", u"any angle; INV: \u22121 to 1; INV HYP: any", u"trig error"},
+    {u"unitGCOS", u"any angle; INV: \u22121 to 1; INV HYP: from 1",
+     u"trig error, hyperbolic error"},
+    {u"unitGTAN", u"not at odd quarter turns; INV HYP: \u22121 to 1",
+     u"undefined, hyperbolic error"},
+    {u"unitGCSC", u"not at half turns; INV: not between \u22121 and 1", u"undefined, trig error"},
+    {u"unitGSEC", u"not at odd quarter turns; INV: not between \u22121 and 1",
+     u"undefined, trig error, hyperbolic error"},
+    {u"unitGCOT", u"not at half turns; INV HYP: not between \u22121 and 1",
+     u"undefined, hyperbolic error"},
+    {u"unitSQR ", u"any number", u""},
+    {u"unitROOT", u"from 0", u"sqrt error"},
+    {u"unitINV ", u"any number; 0 gives an infinity", u""},
+    {u"unitABS ", u"any number", u""},
+    {u"unitEXP ", u"any number", u"overflow, underflow"},
+    {u"unit10^X", u"any number", u"overflow, underflow"},
+    {u"unit2^X ", u"any number", u"overflow, underflow"},
+    {u"unitNLOG", u"from 0", u"log error"},
+    {u"unitLG10", u"from 0", u"log error"},
+    {u"unitLOG2", u"from 0", u"log error"},
+    {u"unitFACT", u"integers to 170; larger give an infinity", u""},
+    {u"unitDFCT", u"integers to 299; larger give an infinity", u""},
+    {u"unitCBRT", u"any number", u""},
+    {u"unitFRAC", u"numbers of 32 bits", u""},
+    {u"unitFLOR", u"any number", u""},
+    {u"unitCEIL", u"any number", u""},
+    {u"unitROND", u"any number", u""},
+    {u"unitNRBY", u"any number", u""},
+    {u"unitRINT", u"any number", u""},
+    {u"unitINT ", u"any number", u""},
+    {u"unitNOT ", u"integers of 32 bits", u""},
+    {u"unitSH1L", u"integers of 32 bits", u""},
+    {u"unitSH1R", u"integers of 32 bits, the sign is kept", u""},
+    {u"unitGAMA", u"not at 0 and negative integers", u"indeterminate"},
+    {u"unitLGAM", u"any number; poles give an infinity", u""},
+    {u"unitZETA", u"not 1; precise above about \u22121", u"indeterminate"},
+    {u"unitERF ", u"any number", u""},
+    {u"unitERFC", u"any number", u""},
+    {u"unitJ0  ", u"any number", u""},
+    {u"unitJ1  ", u"any number", u""},
+    {u"unitY0  ", u"above 0", u"indeterminate"},
+    {u"unitY1  ", u"above 0", u"indeterminate"},
+    {u"bina+   ", u"any numbers", u""},
+    {u"bina-   ", u"any numbers", u""},
+    {u"bina*   ", u"any numbers", u""},
+    {u"bina/   ", u"any numbers; by 0 gives an infinity", u""},
+    {u"bina^   ", u"a negative base needs an integer exponent", u"power error"},
+    {u"binax^y ", u"a negative base needs an integer exponent", u"power error"},
+    {u"bina~   ", u"from 0", u"log error"},
+    {u"binay~x ", u"from 0", u"log error"},
+    {u"binaCHOS", u"whole counts; 0 if X is more than Y", u""},
+    {u"binaMOD ", u"integers of 32 bits", u"undefined at X = 0"},
+    {u"binaDIV ", u"integers of 32 bits", u"undefined at X = 0, overflow"},
+    {u"binaREM ", u"any numbers, X above 0", u"indeterminate"},
+    {u"binaHYPT", u"any numbers", u""},
+    {u"binaMEAN", u"numbers of one sign", u"indeterminate"},
+    {u"binaDEL%", u"Y not 0", u""},
+    {u"binaJx  ", u"any order X, Y above 0 and to about 9800", u"Bessel error"},
+    {u"binaYx  ", u"any order X, Y above 0 and to about 9800", u"Bessel error"},
+    {u"binaAND ", u"integers of 32 bits", u""},
+    {u"binaOR  ", u"integers of 32 bits", u""},
+    {u"binaXOR ", u"integers of 32 bits", u""},
+    {u"binaNAND", u"integers of 32 bits", u""},
+    {u"binay<<x", u"integers of 32 bits", u""},
+    {u"binay>>x", u"integers of 32 bits, the sign is kept", u""},
+    {u"nullRAND", u"from 0 to 1, both included", u""},
+    {u"modiARC ", u"lights until the next key", u""},
+    {u"modiHYP ", u"lights until the next key", u""},
+}};
+
+}  // namespace
+
+std::span<const FunctionNote> functionNotes() { return kNotes; }
+
+}  // namespace talvex

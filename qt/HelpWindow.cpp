@@ -1,0 +1,233 @@
+#include "qt/HelpWindow.h"
+
+#include <QCloseEvent>
+#include <QFile>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QShortcut>
+#include <algorithm>
+#include <cmath>
+
+#include "qt/conversions.h"
+#include "qt/palette.h"
+#include "ui/help_pages.h"
+
+namespace talvex {
+namespace {
+
+constexpr int kListWidth = 136;
+constexpr int kListSpacing = 3;
+constexpr QSize kSmallest(420, 260);
+constexpr int kTextSize = 13;
+constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
+
+// What follows it in the style sheet is for a dark desktop.
+constexpr auto kDarkMark = "/* dark */";
+
+int bottomOfFirstScreen() { return QGuiApplication::primaryScreen()->geometry().bottom() + 1; }
+
+// A saved place may be any number; what doesn't lie on a screen is brought onto the first one.
+QRect contentOnScreen(const NSRect& frame) {
+    static constexpr double kFarthest = 100'000.0;
+    const auto bounded = [](double value) {
+        return static_cast<int>(std::clamp(std::isnan(value) ? 0.0 : value, -kFarthest, kFarthest));
+    };
+    QRect content(bounded(frame.x), bottomOfFirstScreen() - bounded(frame.y + frame.height) + kBar,
+                  bounded(frame.width), bounded(frame.height) - kBar);
+    const QRect visible = QGuiApplication::primaryScreen()->availableGeometry();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const bool isSeen =
+        std::any_of(screens.begin(), screens.end(), [&content](const QScreen* screen) {
+            return screen->availableGeometry().contains(content.topLeft() + QPoint(kBar, 0));
+        });
+    content.setSize(
+        content.size().expandedTo(kSmallest).boundedTo(visible.size() - QSize(0, kBar)));
+    if (!isSeen) {
+        content.moveTopLeft(visible.topLeft() + QPoint(0, kBar));
+    }
+    return content;
+}
+
+class LinkDecision final : public WebPolicyDecisionListener {
+  public:
+    void use() override { isFollowed = true; }
+    void ignore() override {}
+    bool isFollowed = false;
+};
+
+}  // namespace
+
+HelpBrowser::HelpBrowser(WebView& record, QWidget* parent) : QTextBrowser(parent), record_(record) {
+    QFont font = toQFont({.name = u"Lucida Grande", .size = kTextSize});
+    setFont(font);
+    setOpenLinks(false);
+    setFrameShape(QFrame::NoFrame);
+    document()->setDocumentMargin(16.0);
+    connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
+    takeTextSize();
+}
+
+void HelpBrowser::loadRequested() {
+    const QUrl url(toQString(record_.requestedURL()));
+    if (url == source()) {
+        reload();
+    } else {
+        setSource(url);
+    }
+}
+
+void HelpBrowser::takeTextSize() {
+    zoomIn(record_.textSteps() - textSteps_);
+    textSteps_ = record_.textSteps();
+}
+
+void HelpBrowser::follow(const QUrl& link) {
+    const QUrl url = source().resolved(link);
+    LinkDecision decision;
+    record_.decidePolicy(url.toString().toStdU16String(), decision);
+    if (decision.isFollowed) {
+        setSource(url);
+    }
+}
+
+QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
+    const QVariant resource = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::StyleSheetResource || isDark(palette())) {
+        return resource;
+    }
+    const QByteArray sheet = resource.toByteArray();
+    return sheet.left(sheet.indexOf(kDarkMark));
+}
+
+void HelpBrowser::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !source().isEmpty()) {
+        reload();
+    }
+}
+
+HelpWidget::HelpWidget(DYXWindowController& controller)
+    : QWidget(nullptr, Qt::Window),
+      controller_(controller),
+      pages_(new QListWidget(this)),
+      browser_(new HelpBrowser(controller.views().help.webView, this)) {
+    NSMatrix& matrix = *controller_.views().help.matrix;
+    setWindowTitle(toQString(controller_.views().help.window.title()));
+    for (int row = 0; row < matrix.numberOfRows(); ++row) {
+        pages_->addItem(toQString(controller_.localized(matrix.cellAt(row, 0).title)));
+    }
+    pages_->setFixedWidth(kListWidth);
+    pages_->setFrameShape(QFrame::NoFrame);
+    pages_->setSpacing(kListSpacing);
+    pages_->setFont(browser_->font());
+    pages_->setAccessibleName(toQString(controller_.localized(u"pages of the help")));
+    connect(pages_, &QListWidget::currentRowChanged, this, [&matrix](int row) {
+        if (row != matrix.selectedRow()) {
+            matrix.performClickAt(row, 0);
+        }
+    });
+    connect(browser_, &QTextBrowser::sourceChanged, this, [this] { followPage(); });
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(pages_);
+    layout->addWidget(browser_);
+    setMinimumSize(kSmallest);
+    setFocusProxy(browser_);
+    addShortcuts();
+}
+
+void HelpWidget::addShortcuts() {
+    const auto add = [this](const QKeySequence& key, void (DYXWindowController::*action)()) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+                [this, action] { (controller_.*action)(); });
+    };
+    add(QKeySequence::ZoomIn, &DYXWindowController::takeMakeHelpTextLargerFrom);
+    add(Qt::CTRL | Qt::Key_Equal, &DYXWindowController::takeMakeHelpTextLargerFrom);
+    add(QKeySequence::ZoomOut, &DYXWindowController::takeMakeHelpTextSmallerFrom);
+    add(Qt::CTRL | Qt::Key_0, &DYXWindowController::takeMakeHelpTextNormalFrom);
+    add(Qt::Key_F1, &DYXWindowController::takeToggleHelpWindowFrom);
+    add(Qt::Key_Escape, &DYXWindowController::takeToggleHelpWindowFrom);
+}
+
+void HelpWidget::followRecord() {
+    const NSWindow& record = controller_.views().help.window;
+    if (record.isVisible() && !isVisible()) {
+        setGeometry(contentOnScreen(record.frame()));
+    }
+    setVisible(record.isVisible());
+}
+
+// The page may have changed by a link.
+void HelpWidget::followPage() {
+    NSMatrix& matrix = *controller_.views().help.matrix;
+    const QString file = browser_->source().fileName();
+    for (const HelpPage& page : helpPages()) {
+        if (file == QStringLiteral("Help%1.html").arg(toQString(std::u16string(page.title)))) {
+            matrix.selectCellWithTag(page.tag);
+        }
+    }
+    pages_->setCurrentRow(matrix.selectedRow());
+}
+
+void HelpWidget::closeEvent(QCloseEvent* event) {
+    QWidget::closeEvent(event);
+    controller_.views().help.window.orderOut();
+}
+
+void HelpWidget::tellPlace() {
+    if (isVisible()) {
+        const QRect content = geometry();
+        controller_.views().help.window.setFrame(
+            {.x = static_cast<double>(content.x()),
+             .y = static_cast<double>(bottomOfFirstScreen() - content.bottom() - 1),
+             .width = static_cast<double>(content.width()),
+             .height = static_cast<double>(content.height() + kBar)});
+    }
+}
+
+void HelpWidget::moveEvent(QMoveEvent* /*event*/) { tellPlace(); }
+void HelpWidget::resizeEvent(QResizeEvent* /*event*/) { tellPlace(); }
+
+HelpPresenter::HelpPresenter(DYXWindowController& controller) : controller_(controller) {
+    HelpViews& help = controller_.views().help;
+    help.window.setObserver(this);
+    help.webView.setObserver(this);
+}
+
+HelpPresenter::~HelpPresenter() {
+    HelpViews& help = controller_.views().help;
+    help.window.setObserver(nullptr);
+    help.webView.setObserver(nullptr);
+}
+
+void HelpPresenter::windowDidChange(const NSWindow& window) {
+    if (window.isVisible() && !widget_) {
+        widget_ = std::make_unique<HelpWidget>(controller_);
+        webViewDidLoad();
+    }
+    if (widget_) {
+        widget_->followRecord();
+    }
+}
+
+void HelpPresenter::windowDidOrderFront(const NSWindow& /*window*/) {
+    widget_->raise();
+    widget_->activateWindow();
+}
+
+void HelpPresenter::webViewDidLoad() {
+    if (widget_) {
+        widget_->browser().loadRequested();
+        widget_->followPage();
+    }
+}
+
+void HelpPresenter::webViewDidChangeTextSize() {
+    if (widget_) {
+        widget_->browser().takeTextSize();
+    }
+}
+
+}  // namespace talvex

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QListWidget>
+#include <QTextBrowser>
+#include <QWidget>
+#include <memory>
+
+#include "platform/NSWindow.h"
+#include "platform/WebView.h"
+#include "ui/DYXWindowController.h"
+
+namespace talvex {
+
+// Shows a page of the help, light or dark as the desktop is. Links are for the record to decide.
+class HelpBrowser final : public QTextBrowser {
+  public:
+    HelpBrowser(WebView& record, QWidget* parent);
+
+    void loadRequested();
+    void takeTextSize();
+
+  protected:
+    QVariant loadResource(int type, const QUrl& name) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void follow(const QUrl& link);
+
+    WebView& record_;
+    int textSteps_ = 0;
+};
+
+// The window of the help: the matrix of its pages on the left, the page on the right.
+class HelpWidget final : public QWidget {
+  public:
+    explicit HelpWidget(DYXWindowController& controller);
+
+    [[nodiscard]] HelpBrowser& browser() { return *browser_; }
+    void followRecord();
+    void followPage();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void addShortcuts();
+    void tellPlace();
+
+    DYXWindowController& controller_;
+    QListWidget* pages_;
+    HelpBrowser* browser_;
+};
+
+// Makes the window of the help when it is first shown; until then it costs nothing.
+class HelpPresenter final : public NSWindowObserver, public WebViewObserver {
+  public:
+    explicit HelpPresenter(DYXWindowController& controller);
+    HelpPresenter(const HelpPresenter&) = delete;
+    HelpPresenter& operator=(const HelpPresenter&) = delete;
+    ~HelpPresenter();
+
+    void windowDidChange(const NSWindow& window) override;
+    void windowDidOrderFront(const NSWindow& window) override;
+    void webViewDidLoad() override;
+    void webViewDidChangeTextSize() override;
+
+    // Null while it has never been shown.
+    [[nodiscard]] HelpWidget* widget() { return widget_.get(); }
+
+  private:
+    DYXWindowController& controller_;
+    std::unique_ptr<HelpWidget> widget_;
+};
+
+}  // namespace talvex

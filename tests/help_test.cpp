@@ -1,0 +1,227 @@
+// The pages of the help: their examples, their links, and the window that shows them.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "help/PageMaker.h"
+#include "help/function_notes.h"
+#include "platform/HeadlessPlatform.h"
+#include "ui/DYXWindowController.h"
+#include "ui/help_pages.h"
+
+namespace talvex {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kTemplates = TALVEX_RESOURCES;
+
+std::string textOf(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::string fileOf(const HelpPage& page) {
+    return "Help" + std::string(page.title.begin(), page.title.end()) + ".html";
+}
+
+std::vector<std::smatch> matches(const std::string& text, const std::regex& pattern) {
+    return {std::sregex_iterator(text.begin(), text.end(), pattern), {}};
+}
+
+std::string trimmed(const std::string& text) {
+    const std::size_t start = text.find_first_not_of(' ');
+    return start == std::string::npos ? ""
+                                      : text.substr(start, text.find_last_not_of(' ') + 1 - start);
+}
+
+// An example's thin blanks may be typed as plain ones.
+std::string withPlainBlanks(std::string text) {
+    static const std::regex thin("\u2009");
+    return std::regex_replace(text, thin, " ");
+}
+
+TEST(HelpPages, HaveExamplesThatCalculateSo) {
+    const KeyCaps caps;
+    const std::regex example(R"(\{\{example:([^|]*)\|(.*?)\|([^|}]*)\}\})");
+    std::size_t count = 0;
+    for (const HelpPage& page : helpPages()) {
+        const std::string text = textOf(kTemplates / fileOf(page));
+        for (const std::smatch& match : matches(text, example)) {
+            SCOPED_TRACE(fileOf(page) + match.str());
+            HeadlessPlatform platform;
+            DYXWindowController calculator(platform);
+            ASSERT_TRUE(applySettings(calculator, match.str(1)));
+            std::istringstream keys(match.str(2));
+            for (std::string key; keys >> key;) {
+                press(calculator, caps.step(key));
+            }
+            calculator.updateDisplay();
+            static const std::regex quote("\"");
+            EXPECT_EQ(withPlainBlanks(htmlText(shownX(calculator))),
+                      std::regex_replace(trimmed(match.str(3)), quote, "&quot;"));
+            EXPECT_EQ(platform.beeps, 0);
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 60U);
+}
+
+TEST(HelpPages, HaveLinksThatLeadSomewhere) {
+    PageMaker maker;
+    std::map<std::string, std::set<std::string>> anchors;
+    std::map<std::string, std::string> pages;
+    for (const HelpPage& page : helpPages()) {
+        const auto made = maker.make(textOf(kTemplates / fileOf(page)));
+        ASSERT_TRUE(made) << fileOf(page) << ": " << maker.complaint();
+        EXPECT_EQ(made->find("{{"), std::string::npos);
+        pages[fileOf(page)] = *made;
+        for (const std::smatch& match : matches(*made, std::regex(R"re(<a name="([^"]*)">)re"))) {
+            EXPECT_TRUE(anchors[fileOf(page)].insert(match.str(1)).second) << match.str();
+        }
+    }
+    for (const auto& [file, text] : pages) {
+        for (const std::smatch& match :
+             matches(text, std::regex(R"re((href|src)="([^"#]*)#?([^"]*)")re"))) {
+            SCOPED_TRACE(file + ": " + match.str());
+            const std::string target = match.str(2).empty() ? file : match.str(2);
+            EXPECT_TRUE(pages.count(target) == 1 || fs::exists(kTemplates / target));
+            EXPECT_TRUE(match.str(3).empty() || anchors[target].count(match.str(3)) == 1);
+        }
+    }
+    // The help on a key, for all keys that have a command.
+    for (const KeyCaps::Cap& cap : maker.caps().all()) {
+        const std::u16string place = helpPlaceOfCommand(cap.command);
+        const std::string file =
+            "Help" + htmlText(std::u16string_view(place).substr(0, place.find(u'#'))) + ".html";
+        EXPECT_EQ(pages.count(file), 1U) << file;
+        const bool hasAnchor = place.find(u'#') != std::u16string::npos;
+        const bool isRegister = cap.command.starts_with(u"memoM");
+        EXPECT_TRUE(!hasAnchor || isRegister || anchors[file].count(htmlText(cap.command)) == 1)
+            << file << ' ' << htmlText(cap.command);
+    }
+}
+
+TEST(HelpPages, TellOfEveryFunctionForWhichNumbersItIs) {
+    std::set<std::u16string_view> noted;
+    for (const FunctionNote& note : functionNotes()) {
+        EXPECT_TRUE(noted.insert(note.command).second);
+    }
+    const KeyCaps caps;
+    for (const KeyCaps::Cap& cap : caps.all()) {
+        const std::u16string category = cap.command.substr(0, 4);
+        if (category == u"unit" || category == u"bina" || category == u"null") {
+            EXPECT_EQ(noted.count(cap.command), 1U) << htmlText(cap.command);
+        }
+    }
+}
+
+class Help : public testing::Test {
+  protected:
+    [[nodiscard]] const std::u16string& url() const {
+        return controller.views().help.webView.requestedURL();
+    }
+
+    HeadlessPlatform platform;
+    DYXWindowController controller{platform};
+    NSWindow& window = controller.views().help.window;
+    WebView& view = controller.views().help.webView;
+};
+
+class Decision final : public WebPolicyDecisionListener {
+  public:
+    void use() override { answer = "use"; }
+    void ignore() override { answer = "ignore"; }
+    std::string answer;
+};
+
+TEST_F(Help, SendsWebAndMailOutAndKeepsTheRest) {
+    const struct {
+        std::u16string url;
+        std::string answer;
+    } rows[]{{u"http://example.org/", "ignore"},  {u"https://example.org/", "ignore"},
+             {u"mailto:a@example.org", "ignore"}, {u"file:///a/HelpStack.html", "use"},
+             {u"HTTP://example.org/", "use"},     {u"httpx://example.org/", "use"},
+             {u"ftp://example.org/", "use"},      {u"HelpStack.html", "use"}};
+    std::vector<std::u16string> outside;
+    for (const auto& row : rows) {
+        Decision decision;
+        view.decidePolicy(row.url, decision);
+        EXPECT_EQ(decision.answer, row.answer);
+        if (row.answer == "ignore") {
+            outside.push_back(row.url);
+        }
+    }
+    EXPECT_EQ(platform.openedURLs, outside);
+}
+
+TEST_F(Help, ShowsItselfAtTheFirstStartAndTogglesAfterwards) {
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(url(), u"file:///resources/HelpStart.html");
+    EXPECT_EQ(window.frame(), (NSRect{0, 0, 760, 1080}));
+    controller.takeToggleHelpWindowFrom();
+    EXPECT_FALSE(window.isVisible());
+    controller.views().help.matrix->performClickAt(1, 0);
+    EXPECT_EQ(url(), u"file:///resources/HelpStack.html");
+    view.loadRequest(u"elsewhere");
+    controller.takeToggleHelpWindowFrom();  // loads the selected page afresh
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(url(), u"file:///resources/HelpStack.html");
+    controller.takeShowHelpFrame(nullptr);
+    EXPECT_EQ(url(), u"file:///resources/HelpStart.html");
+    platform.resources = "/a b/\u00E4";
+    controller.showHelpFor(u"unitSQR ");
+    EXPECT_EQ(url(), u"file:///a%20b/%C3%A4/HelpFunctions.html#unitSQR%20");
+    EXPECT_EQ(controller.views().help.matrix->selectedRow(), 5);
+}
+
+TEST_F(Help, CountsTheStepsOfItsText) {
+    controller.takeMakeHelpTextLargerFrom();
+    controller.takeMakeHelpTextLargerFrom();
+    EXPECT_EQ(view.textSteps(), 2);
+    controller.takeMakeHelpTextNormalFrom();
+    EXPECT_EQ(view.textSteps(), 0);
+    controller.setHelpViewTextToSize(-2);
+    EXPECT_EQ(view.textSteps(), -2);
+    controller.setHelpViewTextToSize(2'000'000'000);  // as a damaged file has it
+    EXPECT_EQ(view.textSteps(), WebView::kLargestText);
+    EXPECT_EQ(controller.helpViewTextSize(), 2'000'000'000);
+    controller.setHelpViewTextToSize(-2'147'483'647 - 1);
+    controller.takeMakeHelpTextSmallerFrom();
+    EXPECT_EQ(view.textSteps(), WebView::kSmallestText);
+}
+
+TEST(HelpState, OutlivesTheProgram) {
+    std::string name = (fs::temp_directory_path() / "talvex-XXXXXX").string();
+    HeadlessPlatform platform;
+    platform.home = ::mkdtemp(name.data());
+    for (const bool isVisible : {true, false}) {
+        DYXWindowController first(platform);
+        first.views().help.matrix->performClickAt(3, 0);
+        first.views().help.window.setFrame({10, 20, 500, 400});
+        first.setHelpViewTextToSize(-2);
+        if (first.views().help.window.isVisible() != isVisible) {
+            first.takeToggleHelpWindowFrom();
+        }
+        first.applicationWillTerminate();
+        DYXWindowController second(platform);
+        const HelpViews& help = second.views().help;
+        EXPECT_EQ(help.window.isVisible(), isVisible);
+        EXPECT_EQ(help.window.frame(), (NSRect{10, 20, 500, 400}));
+        EXPECT_EQ(help.webView.requestedURL(), u"file:///resources/HelpDisplay.html");
+        EXPECT_EQ(help.webView.textSteps(), -2);
+    }
+    fs::remove_all(platform.home);
+}
+
+}  // namespace
+}  // namespace talvex
