@@ -189,7 +189,8 @@ TEST_F(Clipboard, TheMenuShowsAndChangesEverySetting) {
                               Text(u"Unlock Output from Input"), Text(u"Show YZT Registers")}) {
         EXPECT_TRUE(titles.contains(title)) << testing::PrintToString(title);
     }
-    EXPECT_EQ(keys, (std::set<Text>{u"Ctrl+Ins", u"Meta+C", u"Shift+Ins", u"Meta+V", u"Meta+Q"}));
+    EXPECT_EQ(keys,
+              (std::set<Text>{u"F1", u"Ctrl+Ins", u"Meta+C", u"Shift+Ins", u"Meta+V", u"Meta+Q"}));
 }
 
 TEST_F(Clipboard, TheLockDisablesTheOutputModes) {

@@ -194,10 +194,10 @@ class EndToEnd(unittest.TestCase):
 
     def test_drawers_hold_constants_and_units_and_come_back(self):
         self.open_drawer("constants", "speed of light in vacuum")
-        self.open_drawer("unit conversions", "foot")
+        self.open_drawer("unit conversions", "Length")
         self.calculator.click("speed of light in vacuum")
         self.expect_x("299,792,458.000" + THIN + "0")
-        self.calculator.click("5", "foot", "metre")
+        self.calculator.click("Length", "5", "foot", "metre")
         self.expect_x("1.524" + THIN + "0")
         self.calculator.click("inch")
         self.expect_x("60.000" + THIN + "0")
