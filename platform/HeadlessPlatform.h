@@ -1,6 +1,7 @@
 #pragma once
 
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,7 @@ class HeadlessPlatform final : public Platform {
     void openURL(const std::u16string& url) override { openedURLs.push_back(url); }
     [[nodiscard]] std::string resourcePath() const override { return resources; }
     [[nodiscard]] std::u16string localizedString(std::u16string_view key) const override {
+        titlesAskedFor.insert(std::u16string(key));
         return std::u16string(key);
     }
     void terminate() override { isTerminated = true; }
@@ -40,6 +42,7 @@ class HeadlessPlatform final : public Platform {
     std::uint32_t mouseButtons = 0;
     std::vector<std::u16string> openedURLs;
     std::string resources = "/resources";
+    mutable std::set<std::u16string> titlesAskedFor;
     bool isTerminated = false;
 };
 

@@ -49,6 +49,7 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       controller_(controller),
       drawerRoom_(roomFor(controller.drawers())),
+      helpOn_(controller.localized(u"Help on")),
       focusWalk_(*this) {
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
@@ -195,8 +196,7 @@ void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
     const auto* const key = dynamic_cast<const KeyButton*>(childAt(event->pos()));
     if (key != nullptr && !key->record().alternateTitle().empty()) {
         NSMenuItem item;
-        item.title = controller_.localized(u"Help on") + u" \u201C" +
-                     key->record().accessibilityLabel() + u"\u201D";
+        item.title = helpOn_ + u" \u201C" + key->record().accessibilityLabel() + u"\u201D";
         item.action = [this, command = key->record().alternateTitle()](const NSMenuItem&) {
             controller_.showHelpFor(command);
         };

@@ -58,6 +58,7 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     QMargins drawerRoom_;
     BodyWidget* body_ = nullptr;
     std::array<DrawerWidget*, kDrawerNames.size()> drawers_{};
+    std::u16string helpOn_;
     QMargins publishedMargins_;
     HeldModifiers heldModifiers_;
     FocusWalk focusWalk_;

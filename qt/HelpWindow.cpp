@@ -19,7 +19,7 @@ namespace {
 constexpr int kListWidth = 136;
 constexpr int kListSpacing = 3;
 constexpr QSize kSmallest(420, 260);
-constexpr int kTextSize = 13;
+constexpr double kTextSize = 13.0;
 constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
 
 // What follows it in the style sheet is for a dark desktop.
@@ -59,8 +59,6 @@ class LinkDecision final : public WebPolicyDecisionListener {
 }  // namespace
 
 HelpBrowser::HelpBrowser(WebView& record, QWidget* parent) : QTextBrowser(parent), record_(record) {
-    QFont font = toQFont({.name = u"Lucida Grande", .size = kTextSize});
-    setFont(font);
     setOpenLinks(false);
     setFrameShape(QFrame::NoFrame);
     document()->setDocumentMargin(16.0);
@@ -78,8 +76,8 @@ void HelpBrowser::loadRequested() {
 }
 
 void HelpBrowser::takeTextSize() {
-    zoomIn(record_.textSteps() - textSteps_);
-    textSteps_ = record_.textSteps();
+    const double size = kTextSize + record_.textSteps();
+    setFont(toQFont({.name = u"Lucida Grande", .size = size}));
 }
 
 void HelpBrowser::follow(const QUrl& link) {
@@ -120,14 +118,15 @@ HelpWidget::HelpWidget(DYXWindowController& controller)
     pages_->setFixedWidth(kListWidth);
     pages_->setFrameShape(QFrame::NoFrame);
     pages_->setSpacing(kListSpacing);
-    pages_->setFont(browser_->font());
+    pages_->setFont(toQFont({.name = u"Lucida Grande", .size = kTextSize}));
     pages_->setAccessibleName(toQString(controller_.localized(u"pages of the help")));
     connect(pages_, &QListWidget::currentRowChanged, this, [&matrix](int row) {
         if (row != matrix.selectedRow()) {
             matrix.performClickAt(row, 0);
         }
     });
-    connect(browser_, &QTextBrowser::sourceChanged, this, [this] { followPage(); });
+    connect(browser_, &QTextBrowser::sourceChanged, this,
+            [this](const QUrl& page) { followPage(page); });
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -160,9 +159,9 @@ void HelpWidget::followRecord() {
 }
 
 // The page may have changed by a link.
-void HelpWidget::followPage() {
+void HelpWidget::followPage(const QUrl& url) {
     NSMatrix& matrix = *controller_.views().help.matrix;
-    const QString file = browser_->source().fileName();
+    const QString file = url.fileName();
     for (const HelpPage& page : helpPages()) {
         if (file == QStringLiteral("Help%1.html").arg(toQString(std::u16string(page.title)))) {
             matrix.selectCellWithTag(page.tag);
@@ -220,7 +219,7 @@ void HelpPresenter::windowDidOrderFront(const NSWindow& /*window*/) {
 void HelpPresenter::webViewDidLoad() {
     if (widget_) {
         widget_->browser().loadRequested();
-        widget_->followPage();
+        widget_->followPage(widget_->browser().source());
     }
 }
 

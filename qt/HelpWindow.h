@@ -27,7 +27,6 @@ class HelpBrowser final : public QTextBrowser {
     void follow(const QUrl& link);
 
     WebView& record_;
-    int textSteps_ = 0;
 };
 
 // The window of the help: the matrix of its pages on the left, the page on the right.
@@ -37,7 +36,7 @@ class HelpWidget final : public QWidget {
 
     [[nodiscard]] HelpBrowser& browser() { return *browser_; }
     void followRecord();
-    void followPage();
+    void followPage(const QUrl& url);
 
   protected:
     void closeEvent(QCloseEvent* event) override;

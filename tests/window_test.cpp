@@ -5,8 +5,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QTest>
 #include <QWindow>
+#include <QXmlStreamReader>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -17,11 +19,40 @@
 #include "platform/HeadlessPlatform.h"
 #include "qt/CalculatorWindow.h"
 #include "qt/DrawerWidget.h"
+#include "qt/HelpWindow.h"
 #include "qt/palette.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
 namespace {
+
+// The table has what the program asks for, and nothing else: scripts/update_titles brings it there.
+TEST(Titles, HaveAnEnglishEntry) {
+    QFile table(QStringLiteral(TALVEX_RESOURCES "/titles_en.ts"));
+    ASSERT_TRUE(table.open(QIODevice::ReadOnly));
+    QXmlStreamReader reader(&table);
+    std::set<QString> titles;
+    std::set<QString> translations;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement() && reader.name() == QLatin1String("source")) {
+            titles.insert(reader.readElementText());
+        } else if (reader.isStartElement() && reader.name() == QLatin1String("translation")) {
+            translations.insert(reader.readElementText());
+        }
+    }
+    EXPECT_EQ(titles, translations);
+
+    HeadlessPlatform platform;
+    DYXWindowController controller(platform);
+    const CalculatorWindow window(controller);
+    const HelpWidget help(controller);
+    for (const std::u16string& title : platform.titlesAskedFor) {
+        EXPECT_EQ(titles.count(QString::fromStdU16String(title)), 1U)
+            << QString::fromStdU16String(title).toStdString();
+    }
+    EXPECT_GT(titles.size(), 300U);
+}
 
 class Window : public testing::Test {
   protected:
@@ -213,6 +244,36 @@ TEST_F(Window, HasANameForEveryButton) {
         EXPECT_FALSE(each->isEnabled() && each->accessibleName().isEmpty());
         EXPECT_EQ(each->focusPolicy(), Qt::NoFocus);  // a click leaves the keyboard alone
     }
+}
+
+TEST(HelpWindow, IsMadeWhenItIsFirstShownAndFollowsLinks) {
+    HeadlessPlatform platform;
+    platform.resources = TALVEX_RESOURCES;
+    DYXWindowController controller(platform);
+    controller.takeToggleHelpWindowFrom();  // it is open at the first start
+    HelpPresenter presenter(controller);
+    EXPECT_EQ(presenter.widget(), nullptr);
+    controller.takeToggleHelpWindowFrom();
+    ASSERT_NE(presenter.widget(), nullptr);
+    HelpBrowser& browser = presenter.widget()->browser();
+    EXPECT_TRUE(presenter.widget()->isVisible());
+    EXPECT_EQ(browser.source().fileName(), "HelpStart.html");
+    EXPECT_EQ(browser.documentTitle(), "Calculating in five minutes");
+
+    emit browser.anchorClicked(QUrl("HelpStack.html#stacROLD"));
+    EXPECT_EQ(browser.source().fileName(), "HelpStack.html");
+    EXPECT_EQ(controller.views().help.matrix->selectedRow(), 1);
+    emit browser.anchorClicked(QUrl("https://example.org/"));
+    EXPECT_EQ(browser.source().fileName(), "HelpStack.html");
+    EXPECT_EQ(platform.openedURLs, (std::vector<std::u16string>{u"https://example.org/"}));
+
+    const int size = browser.font().pixelSize();
+    controller.takeMakeHelpTextLargerFrom();
+    EXPECT_GT(browser.font().pixelSize(), size);
+    controller.takeMakeHelpTextNormalFrom();
+    EXPECT_EQ(browser.font().pixelSize(), size);
+    presenter.widget()->close();
+    EXPECT_FALSE(controller.views().help.window.isVisible());
 }
 
 // The ratio of two colours' luminances as the accessibility guidelines have it.
