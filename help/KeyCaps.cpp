@@ -161,7 +161,7 @@ const KeyCaps::Cap* KeyCaps::ofCommand(std::u16string_view command) const {
 
 KeyCaps::Step KeyCaps::step(const std::string& word) const {
     if (!word.empty() && word.find_first_not_of(kTyped) == std::string::npos) {
-        Step step{.commands = {}, .html = "<span class=\"typed\">" + word + "</span>"};
+        Step step{.commands = {}, .html = "<span class='typed'>" + word + "</span>"};
         for (const char character : word) {
             step.commands.push_back(character == '.'
                                         ? u"data.   "
@@ -175,7 +175,7 @@ KeyCaps::Step KeyCaps::step(const std::string& word) const {
         return {};
     }
     return {.commands = {cap->command},
-            .html = "<span class=\"key\">&nbsp;" + htmlOfTex(cap->title) + "&nbsp;</span>"};
+            .html = "<span class='key'>&nbsp;" + htmlOfTex(cap->title) + "&nbsp;</span>"};
 }
 
 }  // namespace talvex

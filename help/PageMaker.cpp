@@ -82,10 +82,10 @@ std::string stackTable(DYXCalculator& calculator) {
         std::u16string text =
             signText(line->mantissaSignField()) + line->mantissaField()->stringValue();
         std::replace(text.begin(), text.end(), kThinSpace, kUnbrokenThinSpace);
-        rows += std::string("<tr><td class=\"label\">") + name + "</td><td class=\"number\">" +
+        rows += std::string("<tr><td class='label'>") + name + "</td><td class='number'>" +
                 htmlText(text) + "</td></tr>";
     }
-    return "<table class=\"stack\" cellspacing=\"0\" cellpadding=\"2\">" + rows + "</table>";
+    return "<table class='stack' cellspacing='0' cellpadding='2'>" + rows + "</table>";
 }
 
 }  // namespace
@@ -189,7 +189,7 @@ std::string PageMaker::keys(std::string_view words) {
 std::string PageMaker::steps(std::string_view keys) {
     HeadlessPlatform platform;
     DYXWindowController calculator(platform);
-    std::string html = "<table class=\"steps\" cellspacing=\"0\" cellpadding=\"4\"><tr>";
+    std::string html = "<table class='steps' cellspacing='0' cellpadding='4'><tr>";
     int count = 0;
     for (const std::string& word : wordsOf(keys)) {
         const KeyCaps::Step step = caps_.step(word);
@@ -199,7 +199,7 @@ std::string PageMaker::steps(std::string_view keys) {
         html += count > 0 && count % kStepsInARow == 0 ? "</tr><tr>" : "";
         ++count;
         press(calculator, step);
-        html += "<td align=\"center\"><p class=\"press\">" + step.html + "</p>" +
+        html += "<td align='center'><p class='press'>" + step.html + "</p>" +
                 stackTable(calculator) + "</td>\n";
     }
     return html + "</tr></table>";
@@ -212,8 +212,8 @@ std::string PageMaker::example(std::string_view text) {
         return complain("an example without two bars: " + std::string(text));
     }
     const std::string settings(trimmed(text.substr(0, first)));
-    return "<tr class=\"example\"><td class=\"settings\">" + settings + "</td><td class=\"keys\">" +
-           keys(text.substr(first + 1, last - first - 1)) + "</td><td class=\"shows\">" +
+    return "<tr class='example'><td class='settings'>" + settings + "</td><td class='keys'>" +
+           keys(text.substr(first + 1, last - first - 1)) + "</td><td class='shows'>" +
            std::string(trimmed(text.substr(last + 1))) + "</td></tr>";
 }
 

@@ -13,7 +13,7 @@
 namespace talvex {
 namespace {
 
-constexpr const char* kTable = "<table class=\"facts\" cellspacing=\"0\" cellpadding=\"4\">\n";
+constexpr const char* kTable = "<table class='facts' cellspacing='0' cellpadding='4'>\n";
 
 // An anchor by the command of a key, its blanks as they stand in a URL.
 std::string anchor(std::u16string_view command) {
@@ -22,12 +22,11 @@ std::string anchor(std::u16string_view command) {
         const std::string text = htmlText({&unit, 1});
         name += text;
     }
-    return "<a name=\"" + name + "\"></a>";
+    return R"(<a name=")" + name + R"("></a>)";
 }
 
-std::string cell(const std::string& html, const char* kind = "") {
-    return std::string("<td") + (*kind != '\0' ? std::string(" class=\"") + kind + '"' : "") + '>' +
-           html + "</td>";
+std::string cell(const std::string& html, const std::string& kind = "plain") {
+    return "<td class='" + kind + "'>" + html + "</td>";
 }
 
 std::string row(const std::string& cells) { return "<tr>" + cells + "</tr>\n"; }
@@ -35,13 +34,13 @@ std::string row(const std::string& cells) { return "<tr>" + cells + "</tr>\n"; }
 std::string head(std::initializer_list<const char*> titles) {
     std::string cells;
     for (const char* const title : titles) {
-        cells += std::string("<th align=\"left\">") + title + "</th>";
+        cells += std::string("<th align='left'>") + title + "</th>";
     }
     return row(cells);
 }
 
 std::string keyCap(std::u16string_view title) {
-    return "<span class=\"key\">&nbsp;" + htmlOfTex(title) + "&nbsp;</span>";
+    return "<span class='key'>&nbsp;" + htmlOfTex(title) + "&nbsp;</span>";
 }
 
 bool isOnPad(const KeyCaps& caps, const KeyCaps::Cap& cap) {
@@ -125,14 +124,12 @@ std::string keyboardPicture(const KeyCaps& caps) {
                     hotKey != nullptr && commandFromString(candidate.command) == hotKey->command;
                 cap = cap == nullptr && isIt ? &candidate : cap;
             }
-            cells += "<td class=\"" + std::string(cap != nullptr ? "cap" : "blank") +
-                     "\" align=\"center\" width=\"36\"><span class=\"keyname\">" +
-                     htmlText({&key, 1}) + "</span><br>" +
-                     (cap != nullptr ? htmlOfTex(cap->title) : "&nbsp;") + "</td>";
+            cells += "<td class='" + std::string(cap != nullptr ? "cap" : "blank") +
+                     "' align='center' width='36'><span class='keyname'>" + htmlText({&key, 1}) +
+                     "</span><br>" + (cap != nullptr ? htmlOfTex(cap->title) : "&nbsp;") + "</td>";
         }
-        picture +=
-            "<table class=\"keyboard\" cellspacing=\"3\" cellpadding=\"3\"><tr><td width=\"" +
-            std::to_string(1 + indent) + "\"></td>" + cells + "</tr></table>\n";
+        picture += "<table class='keyboard' cellspacing='3' cellpadding='3'><tr><td width='" +
+                   std::to_string(1 + indent) + "'></td>" + cells + "</tr></table>\n";
         indent += 18;
     }
     return picture;

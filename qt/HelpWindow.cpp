@@ -90,7 +90,7 @@ void HelpBrowser::follow(const QUrl& link) {
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
-    const QVariant resource = QTextBrowser::loadResource(type, name);
+    QVariant resource = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::StyleSheetResource || isDark(palette())) {
         return resource;
     }

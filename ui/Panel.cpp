@@ -146,12 +146,14 @@ Panel makeMemoryPanel(Platform& platform) {
     for (int number = 0; number < kRegisters; ++number) {
         const std::u16string digits = asciiText(std::to_string(number));
         const std::u16string command = (number < 10 ? u"memoM00" : u"memoM0") + digits;
+        std::u16string hint = registerName;
+        hint.append(u" ").append(digits);
         addKey(panel,
                {.frame = sideKeyFrame(kFirstRegisterRow + number / kRegisterColumns,
                                       kMargin + number % kRegisterColumns * kPitch, kKeyWidth),
                 .command = command,
                 .title = u"M_{" + digits + u"}",
-                .hint = registerName + u' ' + digits,
+                .hint = std::move(hint),
                 .group = KeyGroup::digit},
                NSViewMinXMargin, platform);
     }
