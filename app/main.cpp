@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
     }
     const QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.quondel.Talvex"));
     // The toolkit switches the C library to the user's locale; numbers stay blind to it.
     std::setlocale(LC_NUMERIC, "C");
     talvex::QtPlatform platform;

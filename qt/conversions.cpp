@@ -20,7 +20,7 @@ QColor toQColor(const NSColor& color) {
 }
 
 QFont toQFont(const NSFont& font) {
-    const bool isMonospaced = font.name.find(u"Mono") != std::u16string::npos;
+    const bool isMonospaced = font.name.find(u"Mono") != std::u16string_view::npos;
     QFont result(QString::fromLatin1(isMonospaced ? kMonospacedFamily : kProportionalFamily));
     result.setPixelSize(static_cast<int>(std::lround(font.size)));
     return result;

@@ -61,7 +61,7 @@ void DYXWindowController::updateFonts() {
         return;
     }
     const bool isMonospaced = byMode ? isIntegerMode(displayMode) : settings_.fontMode == 2;
-    const NSFont font{.name = std::u16string(isMonospaced ? kMonospacedFont : kProportionalFont),
+    const NSFont font{.name = isMonospaced ? kMonospacedFont : kProportionalFont,
                       .size = kFontSize};
     for (DYXOutputDisplay* line : lines()) {
         line->setTextFont(font);
