@@ -2,6 +2,8 @@
 #include <QSessionManager>
 #include <QTimer>
 #include <clocale>
+#include <cstdio>
+#include <cstdlib>
 
 #include "qt/CalculatorWindow.h"
 #include "qt/HelpWindow.h"
@@ -9,12 +11,27 @@
 #include "termination_signals.h"
 #include "ui/DYXWindowController.h"
 
+namespace {
+
+// Without a screen the toolkit explains itself at length and aborts; one sentence will do.
+void tellOfMissingScreen(QtMsgType type, const QMessageLogContext& /*context*/,
+                         const QString& /*message*/) {
+    if (type == QtFatalMsg) {
+        std::fputs("talvex: there is no screen to open a window on\n", stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     // A drawer needs to know where the window stands, which only X11 tells.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
     }
+    qInstallMessageHandler(tellOfMissingScreen);
     const QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quondel.Talvex"));
     // The toolkit switches the C library to the user's locale; numbers stay blind to it.
     std::setlocale(LC_NUMERIC, "C");

@@ -70,7 +70,11 @@ void QtPlatform::setPasteboardString(const std::u16string& text) {
     QGuiApplication::clipboard()->setText(toQString(text));
 }
 
+// Where none is told, the toolkit answers with the root of all files.
 std::string QtPlatform::NSHomeDirectory() const {
+    if (qEnvironmentVariableIsEmpty("HOME")) {
+        return {};
+    }
     return QFile::encodeName(QDir::homePath()).toStdString();
 }
 

@@ -217,6 +217,14 @@ class EndToEnd(unittest.TestCase):
         self.calculator.click("open or close the drawer of constants",
                               "open or close the drawer of unit conversions")
 
+    def test_without_a_screen_it_says_so_and_ends(self):
+        for display in ("", ":7777"):
+            result = subprocess.run([PROGRAM], env={**os.environ, "DISPLAY": display},
+                                    capture_output=True, timeout=20)
+            self.assertEqual(result.returncode, 1)
+            self.assertEqual(result.stderr,
+                             b"talvex: there is no screen to open a window on\n")
+
     def test_four_lines_show_the_stack(self):
         self.calculator.click("show the registers Y, Z and T")
         xdotool("key", "4", "Return", "5", "Return", "6", "Return", "7")
