@@ -20,6 +20,7 @@
 #include "qt/CalculatorWindow.h"
 #include "qt/DrawerWidget.h"
 #include "qt/HelpWindow.h"
+#include "qt/conversions.h"
 #include "qt/palette.h"
 #include "ui/DYXWindowController.h"
 
@@ -291,6 +292,11 @@ double contrast(const QColor& one, const QColor& other) {
 }
 
 TEST(Colors, StandOutFromTheirGround) {
+    HeadlessPlatform platform;
+    DYXWindowController controller(platform);
+    const QColor display = toQColor(controller.views().displayView->color());
+    EXPECT_GE(contrast(toQColor(NSColor::black()), display), 4.5);
+    EXPECT_GE(contrast(toQColor(DYXOutputDisplay::errorColor()), display), 4.5);
     for (const bool dark : {false, true}) {
         QPalette palette;
         palette.setColor(QPalette::Window, dark ? Qt::black : Qt::white);
