@@ -59,15 +59,15 @@ void BodyWidget::followRecord() {
     const QSize size = sizeOf(controller_.views().window.frame());
     content_->resize(size - QSize(0, kBar));
     controller_.views().keyPad.view()->statusField()->setNeedsDisplay();
-    const double displayHeight = controller_.views().displayView->frame().height;
-    // The display grows upward, and everything below it moves with the lower edge of the window.
-    movesWithLowerEdge_ = displayHeight != std::exchange(displayHeight_, displayHeight);
+    const bool isMoving = motion_.state() == QAbstractAnimation::Running;
     const QPixmap picture = std::exchange(picture_, {});
-    if (size == this->size() ||
-        (motion_.state() == QAbstractAnimation::Running && motion_.endValue().toSize() == size)) {
+    if (size == (isMoving ? motion_.endValue().toSize() : this->size())) {
         return;
     }
     motion_.stop();
+    // The display grows upward, and everything below it moves with the lower edge of the window.
+    const double displayHeight = controller_.views().displayView->frame().height;
+    movesWithLowerEdge_ = displayHeight != std::exchange(displayHeight_, displayHeight);
     if (picture.isNull()) {
         stillPicture_->hide();
         setBodySize(size);

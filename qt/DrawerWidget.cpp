@@ -62,6 +62,9 @@ double DrawerWidget::fullDepth() const {
 }
 
 void DrawerWidget::drawerDidChange(const NSDrawer& /*drawer*/) {
+    if (!record_.isOpenOrOpening()) {
+        drag_.reset();
+    }
     if (record_.state() == NSDrawerOpeningState && depth_ == 0.0) {
         makeContentOnce();
         place();
@@ -197,8 +200,8 @@ void DrawerWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 // Asked twice with one size and the mouse up, the delegate lets the drawer come to rest.
-void DrawerWidget::mouseReleaseEvent(QMouseEvent* /*event*/) {
-    if (drag_) {
+void DrawerWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (drag_ && event->button() == Qt::LeftButton) {
         drag_.reset();
         record_.dragContentsToSize(record_.contentSize());
         record_.dragContentsToSize(record_.contentSize());

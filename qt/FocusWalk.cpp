@@ -48,9 +48,17 @@ QWidgetList FocusWalk::visibleAreas() const {
     return areas;
 }
 
+// A button that has gone out of sight has the focus no more.
 QWidget* FocusWalk::focusedButton() const {
     QWidget* const focused = window_.focusWidget();
-    return focused != &window_ ? focused : nullptr;
+    if (focused == nullptr || focused == &window_) {
+        return nullptr;
+    }
+    if (!focused->isVisible()) {
+        window_.setFocus();
+        return nullptr;
+    }
+    return focused;
 }
 
 bool FocusWalk::take(const QKeyEvent& event) {

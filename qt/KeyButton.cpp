@@ -41,7 +41,10 @@ KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
     setCheckable(isModifier());
     setChecked(record_.state() != 0);
     connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
-    connect(this, &QAbstractButton::clicked, this, [this] { record_.performClick(); });
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        record_.performClick();
+        setChecked(record_.state() != 0);
+    });
 }
 
 bool KeyButton::isModifier() const { return record_.showsStateBy() != NSNoCellMask; }

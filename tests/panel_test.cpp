@@ -197,9 +197,16 @@ TEST_F(Panels, TellNothingWhileStatusLinesAreOff) {
     controller.takeShowKeyPadFrom();
     EXPECT_EQ(tracked(), keys);
 
+    controller.takeShowKeyPadFrom();
+    controller.takeShowYZTRegistersFrom();  // while the key pad is hidden
+    controller.takeShowKeyPadFrom();
+    EXPECT_EQ(tracked(), keys);
+
     const NSMenuItem item{.title = {}, .action = {}};
+    enter(key(u"unitGSIN", false));
     controller.takeStatusLinesEnabledFrom(item);
     EXPECT_EQ(tracked(), 0U);
+    EXPECT_EQ(padText(), u"");
     controller.takeShowYZTRegistersFrom();
     tabs().selectTabViewItemAtIndex(2);
     EXPECT_EQ(tracked(), 0U);

@@ -124,6 +124,9 @@ TEST_F(WindowGeometry, TakesASavedLayout) {
     setUp({20, 600}, false, 0, true);
     EXPECT_EQ(window.frame(), (NSRect{20, 350, 404, 250}));
     EXPECT_FALSE(controller.views().keyPad.view()->isHidden());
+    controller.takeShowKeyPadFrom();
+    controller.takeShowKeyPadFrom();
+    EXPECT_FALSE(controller.views().keyPad.view()->statusField()->isHidden());
     setUp({20, 600}, false, 77, false);  // a number that no layout has
     EXPECT_EQ(contentSize(), (NSSize{404, 271}));
 }
@@ -171,6 +174,8 @@ TEST_F(WindowGeometry, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
     drawer(DrawerName::functions).finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
     EXPECT_FALSE(controller.views().keyPad.view()->isHidden());
+    controller.takeToggleFunctionsDrawerFrom();  // too late for that
+    EXPECT_EQ(drawer(DrawerName::functions).state(), NSDrawerClosedState);
     drawer(DrawerName::memory).finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{274, 45}));
     EXPECT_TRUE(controller.views().keyPad.view()->isHidden());

@@ -237,6 +237,34 @@ TEST_F(Window, CanBeWalkedThroughByTheKeyboardAlone) {
     EXPECT_EQ(window.focusWidget(), &window);
 }
 
+TEST_F(Window, LeavesNoKeyWithTheKeyboardThatIsOutOfSight) {
+    QTest::keyClick(&window, '5');
+    button("sine")->setFocus();
+    controller.takeShowKeyPadFrom();
+    QTest::keyClick(&window, Qt::Key_Return);
+    EXPECT_EQ(controller.stack().x(), 5.0);
+    EXPECT_EQ(window.focusWidget(), &window);
+}
+
+TEST_F(Window, EndsUpAsItsRecordAfterTwoSwitchesAtOnce) {
+    controller.takeShowYZTRegistersFrom();
+    controller.takeShowYZTRegistersFrom();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.bodyRect().height() == 233; }));
+    QTest::qWait(250);
+    EXPECT_EQ(window.bodyRect().height(), 233);
+}
+
+TEST_F(Window, LightsTheTabThatIsSelected) {
+    open(DrawerName::conversion);
+    DYXTabView& tabs = *controller.views().conversionPanel.tabView;
+    QTest::mouseClick(button("Mass"), Qt::LeftButton);
+    QTest::mouseClick(button("Mass"), Qt::LeftButton);
+    EXPECT_TRUE(button("Mass")->isChecked());
+    tabs.selectTabViewItemAtIndex(2);
+    EXPECT_TRUE(button("Area")->isChecked());
+    EXPECT_FALSE(button("Mass")->isChecked());
+}
+
 TEST_F(Window, HasANameForEveryButton) {
     for (const DrawerName name : kDrawerNames) {
         open(name);

@@ -36,7 +36,13 @@ void DYXStatusLineTracker::mouseEntered(const void* userData) {
 }
 
 void DYXStatusLineTracker::mouseExited(const void* userData) {
-    if (userData == currrentStatusLine_ && statusField_) {
+    if (userData == currrentStatusLine_) {
+        clearStatusField();
+    }
+}
+
+void DYXStatusLineTracker::clearStatusField() {
+    if (statusField_) {
         statusField_->setStringValue({});
     }
 }
@@ -44,6 +50,7 @@ void DYXStatusLineTracker::mouseExited(const void* userData) {
 void DYXStatusLineTracker::install(const DYXStatusLines& lines) {
     for (const auto& line : lines) {
         NSView& view = line->view();
+        view.removeTrackingRect(line->tag());
         line->setTag(view.addTrackingRect(view.bounds(), *this, line.get(), false));
     }
 }

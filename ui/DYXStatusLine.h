@@ -50,10 +50,12 @@ class DYXStatusLineTracker : public NSTrackingOwner {
     void mouseEntered(const void* userData) override;
     // Clears the field, unless the pointer is over another control by now.
     void mouseExited(const void* userData) override;
+    void clearStatusField();
 
   protected:
     ~DYXStatusLineTracker() = default;
 
+    // One rectangle for each record, however often it is asked for.
     void install(const DYXStatusLines& lines);
     static void uninstall(const DYXStatusLines& lines);
 

@@ -97,6 +97,7 @@ void DYXTabView::selectTabViewItemAtIndex(int index) {
     matrix_->selectCellAtRowColumn(index / matrix_->numberOfColumns(),
                                    index % matrix_->numberOfColumns());
     addTrackingRects();
+    setNeedsDisplay();
 }
 
 void DYXTabView::setFrame(const NSRect& frame) {

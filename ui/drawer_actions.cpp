@@ -42,7 +42,7 @@ void DYXWindowController::takeToggleFunctionsDrawerFrom() {
 void DYXWindowController::toggleDrawer(NSDrawer& drawer) {
     if (drawer.isOpenOrOpening()) {
         drawer.close();
-    } else if (views_->window.frame().height > kLowWindow) {
+    } else if (!layout_.keyPadHidden && views_->window.frame().height > kLowWindow) {
         drawer.openOnEdge(drawer.preferredEdge());
     }
 }

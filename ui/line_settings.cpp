@@ -112,6 +112,8 @@ void DYXWindowController::fixDecimalSeparator() {
     decimalButton.setImagePosition(hasImage ? NSImagePosition::imageOnly
                                             : NSImagePosition::noImage);
     hotKeys_->followDecimalSeparator(separator);
+    decimalButton.setToolTip(decimalButton.accessibilityLabel());
+    views_->keyPad.view()->renewStatusLine(decimalButton, *hotKeys_);
     // The groups' separator has to differ from it.
     updateDigitGrouping();
     syncDisplays();

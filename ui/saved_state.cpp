@@ -90,6 +90,11 @@ void DYXWindowController::applyState(const SavedState& state) {
         drawers_[saved.name].wasOpen = state.*saved.wasOpen;
     }
     applyHelpState(state);
+    if (state.keyPadHidden) {
+        for (const DrawerName name : kDrawerNames) {
+            drawers_[name].record.close();
+        }
+    }
     if (const auto& frame = state.calculatorFrame) {
         setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(
             {frame->x, frame->y + frame->height}, state.keyPadHidden, state.displayViewMode,
@@ -123,6 +128,7 @@ void DYXWindowController::loadData() {
 void DYXWindowController::revertDocumentToSaved() {
     loadData();
     updateLabels();
+    showStatusLines();
     fixDecimalSeparator();
     syncDisplays();
     updateDisplay();

@@ -78,6 +78,10 @@ void DYXWindowController::showStatusLines() {
     }
     views_->conversionPanel.tabView->setShowStatusLines(false);
     if (!settings_.statusLinesEnabled) {
+        for (DYXStatusLineView* const view : statusLineViews()) {
+            view->clearStatusField();
+        }
+        views_->conversionPanel.tabView->clearStatusField();
         return;
     }
     for (DYXStatusLineView* const view : statusLineViews()) {

@@ -89,6 +89,7 @@ void DYXWindowController::takeShowKeyPadFrom() {
         return;
     }
     views_->keyPad.view()->setHidden(false);
+    views_->keyPad.view()->statusField()->setHidden(false);
     resizeWindow();
     trackKeyPad();
     for (const DrawerName name : kDrawerNames) {
