@@ -7,10 +7,6 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QLabel label(QStringLiteral("0"));
     label.setFixedSize(404, 233);
-    label.setStyleSheet({});
-    QPalette palette;
-    palette.setColor(QPalette::Window, Qt::white);
-    label.setPalette(palette);
     label.show();
     return QApplication::exec();
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "display/utf8.h"
 #include "ui/panel_tables.h"
 #include "ui/simple_tex.h"
 
@@ -30,27 +31,6 @@ std::u16string pictureOf(std::u16string_view command) {
         }
     }
     return {};
-}
-
-void appendUtf8(std::string& text, char16_t unit) {
-    if (unit < 0x80) {
-        text += static_cast<char>(unit);
-    } else if (unit < 0x800) {
-        text += static_cast<char>(0xC0 | unit >> 6);
-        text += static_cast<char>(0x80 | (unit & 0x3F));
-    } else {
-        text += static_cast<char>(0xE0 | unit >> 12);
-        text += static_cast<char>(0x80 | (unit >> 6 & 0x3F));
-        text += static_cast<char>(0x80 | (unit & 0x3F));
-    }
-}
-
-std::string utf8(std::u16string_view text) {
-    std::string result;
-    for (const char16_t unit : text) {
-        appendUtf8(result, unit);
-    }
-    return result;
 }
 
 constexpr std::string_view kTyped = "0123456789.";
@@ -104,15 +84,7 @@ std::string htmlOf(const NSAttributedString& text) {
 
 std::string htmlOfTex(std::u16string_view tex) { return htmlOf(simpleTexTitle(tex, {})); }
 
-// Without the small blank that keeps status lines of one height.
-std::string htmlOfHint(std::u16string_view tex) {
-    NSAttributedString text = ZUStringExtensions::simpleTexSingleLine(tex);
-    while (!text.string.empty() && text.string.back() == u' ') {
-        text.string.pop_back();
-        text.attributes.pop_back();
-    }
-    return htmlOf(text);
-}
+std::string htmlOfHint(std::u16string_view tex) { return htmlOf(simpleTexHint(tex)); }
 
 KeyCaps::KeyCaps() {
     HeadlessPlatform platform;

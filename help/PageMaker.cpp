@@ -7,16 +7,12 @@
 #include <utility>
 #include <vector>
 
-#include "display/display_modes.h"
-
 namespace talvex {
 namespace {
 
 constexpr char16_t kThinSpace = u'\u2009';
 constexpr char16_t kUnbrokenThinSpace = u'\u202F';
 constexpr int kStepsInARow = 6;
-
-constexpr std::array<std::string_view, 5> kAngles{"RAD", "DEG", "GRD", "HRS", "REV"};
 
 std::vector<std::string> wordsOf(std::string_view text) {
     std::istringstream stream{std::string(text)};
@@ -33,21 +29,10 @@ std::string_view trimmed(std::string_view text) {
     return end == std::string_view::npos ? "" : text.substr(start, end + 1 - start);
 }
 
-bool setMode(DYXWindowController& calculator, std::string_view word) {
-    for (std::int32_t mode = 0; mode < mode::count; ++mode) {
-        const std::u16string name = displayModeName(mode);
-        if (std::equal(name.begin(), name.end(), word.begin(), word.end())) {
-            calculator.takeInputModeFrom({.title = {}, .tag = mode, .action = {}});
-            return true;
-        }
-    }
-    return false;
-}
-
-bool setAngle(DYXCalculator& calculator, std::string_view word) {
-    for (std::size_t angle = 0; angle < kAngles.size(); ++angle) {
-        if (kAngles[angle] == word) {
-            calculator.angleMode = static_cast<std::int32_t>(angle);
+bool choose(const NSPopUpButton& popUp, std::string_view word) {
+    for (const NSMenuItem& item : popUp.menu().items) {
+        if (std::equal(item.title.begin(), item.title.end(), word.begin(), word.end())) {
+            item.action(item);
             return true;
         }
     }
@@ -92,7 +77,8 @@ std::string stackTable(DYXCalculator& calculator) {
 
 bool applySettings(DYXWindowController& calculator, std::string_view settings) {
     for (const std::string& word : wordsOf(settings)) {
-        if (!setMode(calculator, word) && !setAngle(calculator, word) &&
+        const WindowViews& views = calculator.views();
+        if (!choose(*views.inputModePopUp, word) && !choose(*views.angleModePopUp, word) &&
             !setDigits(calculator, word)) {
             return false;
         }

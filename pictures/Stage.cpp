@@ -52,7 +52,7 @@ QImage Stage::picture() {
     QPixmap pixmap(region.boundingRect().size() * window_->devicePixelRatio());
     pixmap.setDevicePixelRatio(window_->devicePixelRatio());
     pixmap.fill(Qt::transparent);
-    window_->render(&pixmap, QPoint(), region.translated(0, 0), QWidget::DrawChildren);
+    window_->render(&pixmap, QPoint(), region, QWidget::DrawChildren);
     return pixmap.toImage();
 }
 

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "qt/BodyWidget.h"
@@ -13,6 +12,7 @@
 #include "qt/PanelWidget.h"
 #include "qt/frame_extents.h"
 #include "qt/menus.h"
+#include "qt/screen_places.h"
 #include "ui/window_layout.h"
 
 namespace talvex {
@@ -101,8 +101,9 @@ void CalculatorWindow::windowWillAnimate(const NSWindow& /*window*/) { body_->pr
 
 void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
     body_->followRecord();
-    if (isVisible() && placeOfRecord() != pos() && isOnScreen(QRect(placeOfRecord(), size()))) {
-        move(placeOfRecord());
+    const QPoint place = placeOfCanvas();
+    if (isVisible() && place != pos() && wouldBeInSight(place)) {
+        move(place);
     }
 }
 
@@ -148,45 +149,28 @@ void CalculatorWindow::makeRoomFor(const QRect& wanted) {
 
 // A place that is on no screen any more gives way to the middle of one.
 void CalculatorWindow::placeOnScreen() {
-    if (controller_.hasSavedFrame() && isOnScreen(QRect(placeOfRecord(), size()))) {
-        move(placeOfRecord());
+    if (controller_.hasSavedFrame() && wouldBeInSight(placeOfCanvas())) {
+        move(placeOfCanvas());
         return;
     }
     const QRect visible = QGuiApplication::primaryScreen()->availableGeometry();
     move(visible.center() - bodyRect().center());
 }
 
-// The record's origin is the lower left corner of the first screen. A saved place may be any
-// number.
-QPoint CalculatorWindow::placeOfRecord() const {
-    static constexpr double kFarthest = 100'000.0;
-    const NSRect& frame = controller_.views().window.frame();
-    const auto bounded = [](double value) {
-        return static_cast<int>(std::clamp(std::isnan(value) ? 0.0 : value, -kFarthest, kFarthest));
-    };
-    const int bottom = QGuiApplication::primaryScreen()->geometry().bottom() + 1;
-    return QPoint(bounded(frame.x), bottom - bounded(frame.y + frame.height)) -
-           bodyRect().topLeft();
+// Where the canvas would be for the body to be at the record's place.
+QPoint CalculatorWindow::placeOfCanvas() const {
+    return onScreen(controller_.views().window.frame()).topLeft() - bodyRect().topLeft();
 }
 
-// Whether enough of the title bar is in sight to take hold of it.
-bool CalculatorWindow::isOnScreen(const QRect& canvas) const {
-    constexpr int kInSight = 40;
-    const QRect bar(canvas.topLeft() + bodyRect().topLeft(), QSize(bodyRect().width(), kBar));
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
-        const QRect seen = screen->availableGeometry().intersected(bar);
-        return seen.width() >= kInSight && seen.height() == bar.height();
-    });
+bool CalculatorWindow::wouldBeInSight(const QPoint& placeOfCanvas) const {
+    return isInSight({placeOfCanvas + bodyRect().topLeft(), QSize(bodyRect().width(), kBar)});
 }
 
 void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) {
+    NSWindow& record = controller_.views().window;
     const QPoint corner = pos() + bodyRect().topLeft();
-    NSRect frame = controller_.views().window.frame();
-    frame.x = corner.x();
-    frame.y = QGuiApplication::primaryScreen()->geometry().bottom() + 1 - corner.y() - frame.height;
-    if (!(frame == controller_.views().window.frame())) {
-        controller_.views().window.setFrame(frame);
+    if (onScreen(record.frame()).topLeft() != corner) {
+        record.setFrame(placeOfRecord({corner, onScreen(record.frame()).size()}));
     }
 }
 

@@ -47,8 +47,8 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void makeRoomFor(const QRect& wanted);
     void placeOnScreen();
     // Where the canvas has to stand for the body to be where the record says.
-    [[nodiscard]] QPoint placeOfRecord() const;
-    [[nodiscard]] bool isOnScreen(const QRect& canvas) const;
+    [[nodiscard]] QPoint placeOfCanvas() const;
+    [[nodiscard]] bool wouldBeInSight(const QPoint& placeOfCanvas) const;
     void adoptModifiers();
     void dropModifiers();
     void sendFlags();

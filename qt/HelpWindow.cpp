@@ -6,11 +6,10 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QShortcut>
-#include <algorithm>
-#include <cmath>
 
 #include "qt/conversions.h"
 #include "qt/palette.h"
+#include "qt/screen_places.h"
 #include "ui/help_pages.h"
 
 namespace talvex {
@@ -25,22 +24,13 @@ constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
 // What follows it in the style sheet is for a dark desktop.
 constexpr auto kDarkMark = "/* dark */";
 
-int bottomOfFirstScreen() { return QGuiApplication::primaryScreen()->geometry().bottom() + 1; }
-
-// A saved place may be any number; what doesn't lie on a screen is brought onto the first one.
+// Below the title bar that the desktop gives it. What doesn't lie on a screen is brought onto the
+// first one.
 QRect contentOnScreen(const NSRect& frame) {
-    static constexpr double kFarthest = 100'000.0;
-    const auto bounded = [](double value) {
-        return static_cast<int>(std::clamp(std::isnan(value) ? 0.0 : value, -kFarthest, kFarthest));
-    };
-    QRect content(bounded(frame.x), bottomOfFirstScreen() - bounded(frame.y + frame.height) + kBar,
-                  bounded(frame.width), bounded(frame.height) - kBar);
+    QRect content = onScreen(frame).adjusted(0, kBar, 0, 0);
     const QRect visible = QGuiApplication::primaryScreen()->availableGeometry();
-    const QList<QScreen*> screens = QGuiApplication::screens();
     const bool isSeen =
-        std::any_of(screens.begin(), screens.end(), [&content](const QScreen* screen) {
-            return screen->availableGeometry().contains(content.topLeft() + QPoint(kBar, 0));
-        });
+        isInSight({content.topLeft() - QPoint(0, kBar), QSize(content.width(), kBar)});
     content.setSize(
         content.size().expandedTo(kSmallest).boundedTo(visible.size() - QSize(0, kBar)));
     if (!isSeen) {
@@ -177,12 +167,8 @@ void HelpWidget::closeEvent(QCloseEvent* event) {
 
 void HelpWidget::tellPlace() {
     if (isVisible()) {
-        const QRect content = geometry();
         controller_.views().help.window.setFrame(
-            {.x = static_cast<double>(content.x()),
-             .y = static_cast<double>(bottomOfFirstScreen() - content.bottom() - 1),
-             .width = static_cast<double>(content.width()),
-             .height = static_cast<double>(content.height() + kBar)});
+            placeOfRecord(geometry().adjusted(0, -kBar, 0, 0)));
     }
 }
 

@@ -12,25 +12,6 @@ namespace {
 constexpr double kRadius = 4.0;
 constexpr double kTextMargin = 3.0;
 
-// Words are set smaller than formulas, and single signs larger.
-constexpr double kLongWordSize = 9.0;
-constexpr double kWordSize = 10.0;
-constexpr double kSignSize = 13.0;
-
-double titleSize(const std::u16string& title, KeyGroup group, double formulaSize) {
-    const bool isWord = title.size() > 2 && title[0] >= u'A' && title[1] >= u'A' &&
-                        title[0] <= u'Z' && title[1] <= u'Z';
-    if (group == KeyGroup::flat) {
-        return kLongWordSize;
-    }
-    if (isWord) {
-        return title.size() > 3 ? kLongWordSize : kWordSize;
-    }
-    const bool isDigit =
-        group == KeyGroup::digit && title.size() == 1 && title[0] >= u'0' && title[0] <= u'9';
-    return isDigit || group == KeyGroup::operation ? kSignSize : formulaSize;
-}
-
 }  // namespace
 
 KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
@@ -75,10 +56,12 @@ void KeyButton::paintTitle(QPainter& painter, const QRectF& rect, const QColor& 
         paintImage(painter, rect, record_.image(), color);
         return;
     }
-    NSFont font = record_.font();
-    font.size = titleSize(record_.title(), group_, font.size);
     painter.setPen(color);
-    paintCentered(painter, rect, simpleTexTitle(record_.title(), font));
+    if (!record_.attributedTitle().string.empty()) {
+        paintCentered(painter, rect, record_.attributedTitle());
+    } else {
+        paintCentered(painter, rect, simpleTexTitle(record_.title(), record_.font()));
+    }
 }
 
 }  // namespace talvex

@@ -13,6 +13,7 @@
 #include <QUrl>
 
 #include "qt/conversions.h"
+#include "qt/screen_places.h"
 
 namespace talvex {
 namespace {
@@ -83,12 +84,7 @@ std::vector<NSRect> QtPlatform::visibleFramesOfScreens() const {
     std::vector<NSRect> frames;
     const QList<QScreen*> screens = QGuiApplication::screens();
     for (const QScreen* const screen : screens) {
-        const QRect visible = screen->availableGeometry();
-        const int bottom = screens.first()->geometry().bottom();
-        frames.push_back({.x = static_cast<double>(visible.x()),
-                          .y = static_cast<double>(bottom - visible.bottom()),
-                          .width = static_cast<double>(visible.width()),
-                          .height = static_cast<double>(visible.height())});
+        frames.push_back(placeOfRecord(screen->availableGeometry()));
     }
     return frames;
 }

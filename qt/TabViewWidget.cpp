@@ -69,8 +69,8 @@ void TabViewWidget::showPage() {
 }
 
 void TabViewWidget::placeTabs() {
-    for (QWidget* const tab : tabs_) {
-        static_cast<TabButton*>(tab)->place();
+    for (TabButton* const tab : tabs_) {
+        tab->place();
     }
 }
 

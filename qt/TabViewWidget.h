@@ -9,6 +9,8 @@
 
 namespace talvex {
 
+class TabButton;
+
 // The tab view of units: the frame, the page of keys in it, and the tab buttons above.
 class TabViewWidget final : public QWidget {
   public:
@@ -23,7 +25,7 @@ class TabViewWidget final : public QWidget {
 
     const ConversionPanel& panel_;
     std::vector<QWidget*> pages_;  // null until first shown
-    std::vector<QWidget*> tabs_;
+    std::vector<TabButton*> tabs_;
     RecordObserver observer_;
 };
 

@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "display/display_modes.h"
+#include "display/utf8.h"
 #include "key_script.h"
 
 namespace talvex {

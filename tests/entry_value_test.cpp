@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "display/display_modes.h"
+#include "display/utf8.h"
 #include "key_script.h"
 #include "numeric/DYXnan.h"
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "display/ascii_text.h"
+#include "display/utf8.h"
 
 namespace talvex {
 namespace {
@@ -47,23 +48,6 @@ std::string commandOf(std::string_view key) {
 std::string textOf(const TextSlot& slot) { return utf8(slot->stringValue()); }
 
 }  // namespace
-
-std::string utf8(const std::u16string& text) {
-    std::string result;
-    for (const char16_t unit : text) {
-        if (unit < 0x80) {
-            result += static_cast<char>(unit);
-        } else if (unit < 0x800) {
-            result += static_cast<char>(0xC0 | unit >> 6);
-            result += static_cast<char>(0x80 | (unit & 0x3F));
-        } else {
-            result += static_cast<char>(0xE0 | unit >> 12);
-            result += static_cast<char>(0x80 | (unit >> 6 & 0x3F));
-            result += static_cast<char>(0x80 | (unit & 0x3F));
-        }
-    }
-    return result;
-}
 
 void KeyScript::press(std::string_view keys) {
     std::istringstream words{std::string(keys)};

@@ -9,7 +9,6 @@
 namespace talvex {
 
 // UTF-8, for messages and for expected texts that can be read.
-std::string utf8(const std::u16string& text);
 
 // A calculator that is driven as a manual is read: press("1 2 ENTER 3 +").
 class KeyScript {

@@ -85,7 +85,7 @@ TEST(SimpleTex, MarksStatusTexts) {
 
 TEST(SimpleTex, IsTheTitleOfAKeyInItsOwnFont) {
     HeadlessPlatform platform;
-    DYXButton key({}, u"e^x", platform);
+    DYXButton key({}, u"e^x", {.name = u"Lucida Grande", .size = 12.0}, platform);
     EXPECT_EQ(key.attributedTitle(), simpleTexTitle(u"e^x", key.font()));
     EXPECT_EQ(key.attributedTitle().string, u"ex");
     key.mouseDown();

@@ -20,9 +20,11 @@ ZUModifierButton::ZUModifierButton(const NSRect& frame) : NSButton(frame) {
     setHighlightsBy(kPushedAndColored);
 }
 
-DYXButton::DYXButton(const NSRect& frame, const std::u16string& title, LogPort& log)
+DYXButton::DYXButton(const NSRect& frame, const std::u16string& title, const NSFont& font,
+                     LogPort& log)
     : NSButton(frame), log_(log) {
     setTitle(title);
+    setFont(font);
     setAttributedTitle(attributedStringFromSimpleTex(title));
 }
 

@@ -30,7 +30,7 @@ class ZUModifierButton : public NSButton {
 class DYXButton : public NSButton {
   public:
     // The log has to outlive the button.
-    DYXButton(const NSRect& frame, const std::u16string& title, LogPort& log);
+    DYXButton(const NSRect& frame, const std::u16string& title, const NSFont& font, LogPort& log);
 
     [[nodiscard]] NSAttributedString attributedStringFromSimpleTex(std::u16string_view text) const;
 

@@ -64,6 +64,7 @@ void DYXWindowController::connectControls() {
     views_->conversionPanel.setKeyAction(runKey);
     views_->keyPad.lockButton().setAction(
         [this](NSButton& button) { takeLockOutputAndInputFrom(button); });
+    findModifierKeys();
     views_->xyztButton->setAction([this](NSButton&) { takeShowYZTRegistersFrom(); });
     views_->statusButton->setAction([this](NSButton&) { takeShowStatusLineFrom(); });
 }

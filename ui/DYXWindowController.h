@@ -160,6 +160,7 @@ class DYXWindowController final : public DYXCalculator,
     void applicationWillTerminate();
 
     // Refresh of controls, in control_refresh.cpp.
+    void findModifierKeys();
     void updateModifiers() override;
     void updateButtons();
     void updateAngle();
@@ -193,8 +194,15 @@ class DYXWindowController final : public DYXCalculator,
     [[nodiscard]] HotKeyState hotKeyState() const;
     [[nodiscard]] std::array<DYXOutputDisplay*, 5> lines();
 
+    // A key that shows whether a modifier is on.
+    struct ModifierButton {
+        NSButton* button;
+        bool (*isOn)(const DYXCalculator&);
+    };
+
     std::unique_ptr<HotKeys> hotKeys_;
     std::unique_ptr<WindowViews> views_;
+    std::vector<ModifierButton> modifierButtons_;
     Drawers drawers_;
     WindowLayout layout_;
     DYXSettings settings_;

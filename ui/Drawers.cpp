@@ -11,10 +11,6 @@
 namespace talvex {
 namespace {
 
-constexpr DrawerPositions kNoPositions{};
-constexpr DrawerPositions kConstantsPositions{313, 271, 229, 182, 133, 91, 47};
-constexpr DrawerPositions kFunctionsPositions{182, 153, 126, 98, 73, 47};
-
 constexpr double kSlidingStep = 15.0;
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "platform/NSDrawer.h"
 #include "ui/DYXStatusLineView.h"
+#include "ui/drawer_positions.h"
 
 namespace talvex {
 
@@ -13,10 +14,6 @@ enum class DrawerName { memory, constants, conversion, functions };
 
 inline constexpr std::array<DrawerName, 4> kDrawerNames{
     DrawerName::memory, DrawerName::constants, DrawerName::conversion, DrawerName::functions};
-
-// Widths or heights of the content at which a drawer comes to rest, besides none and all: from the
-// largest down, ended by the first that isn't above 0.
-using DrawerPositions = std::array<float, 8>;
 
 struct Drawer {
     Drawer(const std::shared_ptr<NSView>& content, NSRectEdge edge,

@@ -6,20 +6,11 @@
 #include "ui/window_layout.h"
 
 namespace talvex {
-namespace {
-
-constexpr double kStatusFontSize = 10.0;
-
-}  // namespace
-
 KeyPad::KeyPad(Platform& platform)
     : titles_(platform),
       panel_{.view = std::make_shared<DYXStatusLineView>(keyPadViewRect()), .keys = {}} {
     view()->setAutoresizingMask(NSViewMinYMargin);
-    auto status = std::make_shared<NSTextField>(statusLineFieldRect());
-    status->setFont({.name = u"Lucida Grande", .size = kStatusFontSize});
-    view()->addSubview(status);
-    view()->setStatusField(status);
+    addStatusField(*view(), *view(), statusLineFieldRect(), NSViewNotSizable);
     for (const KeyRow& row : keyPadRows()) {
         panel_.keys.push_back(makeKey({.frame = keyFrame(row),
                                        .command = row.command,
@@ -29,16 +20,17 @@ KeyPad::KeyPad(Platform& platform)
                                        .keyClass = row.keyClass},
                                       platform));
     }
+    std::size_t place = 0;
     for (const DrawerKeyRow& row : drawerKeyRows()) {
         const std::u16string title = platform.localizedString(row.title);
-        panel_.keys.push_back(makeKey({.frame = drawerKeyFrame(drawerButtons_.size()),
+        panel_.keys.push_back(makeKey({.frame = drawerKeyFrame(place++),
                                        .command = {},
                                        .title = title,
                                        .hint = platform.localizedString(row.hint),
                                        .group = KeyGroup::flat,
                                        .keyClass = KeyClass::drawer},
                                       platform));
-        drawerButtons_.push_back(panel_.keys.back().button);
+        drawerButtons_.at(static_cast<std::size_t>(row.drawer)) = panel_.keys.back().button.get();
     }
     for (const Key& key : keys()) {
         key.button->setAutoresizingMask(NSViewMinYMargin);
@@ -62,7 +54,7 @@ NSButton& KeyPad::button(std::u16string_view command) const {
 void KeyPad::setKeyAction(const std::function<void(NSButton&)>& action) {
     panel_.setKeyAction(action);
     lockButton().setAction({});
-    for (const auto& button : drawerButtons_) {
+    for (NSButton* const button : drawerButtons_) {
         button->setAction({});
     }
 }

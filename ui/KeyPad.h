@@ -27,9 +27,8 @@ class KeyPad {
     // The six keys of the letters A to F.
     [[nodiscard]] const std::array<NSButton*, 6>& hexButtons() const { return hexButtons_; }
     [[nodiscard]] NSButton& lockButton() const { return button(u"lock"); }
-    // In the order of their table.
-    [[nodiscard]] const std::vector<std::shared_ptr<NSButton>>& drawerButtons() const {
-        return drawerButtons_;
+    [[nodiscard]] NSButton& drawerButton(DrawerName drawer) const {
+        return *drawerButtons_.at(static_cast<std::size_t>(drawer));
     }
 
     // What a click on a command key does; the lock and the drawers have actions of their own.
@@ -42,7 +41,7 @@ class KeyPad {
     const BundlePort& titles_;
     Panel panel_;
     std::array<NSButton*, 6> hexButtons_{};
-    std::vector<std::shared_ptr<NSButton>> drawerButtons_;
+    std::array<NSButton*, kDrawerNames.size()> drawerButtons_{};
     bool showsHexDigits_ = true;
 };
 

@@ -5,6 +5,7 @@
 
 #include "core/function_tables.h"
 #include "display/ascii_text.h"
+#include "ui/drawer_positions.h"
 #include "ui/panel_tables.h"
 #include "ui/printed_number.h"
 #include "ui/simple_tex.h"
@@ -16,7 +17,6 @@ constexpr double kKeyWidth = 36.0;
 constexpr double kMargin = 5.0;
 constexpr double kStatusHeight = 18.0;
 constexpr double kStatusBottom = 2.0;
-constexpr double kStatusFontSize = 10.0;
 constexpr double kKeysBottom = 23.0;
 
 // Drawers at the sides: six rows.
@@ -45,33 +45,38 @@ NSRect wideKeyFrame(int column, int columnSpan, double left, double y) {
             .height = kKeyHeight};
 }
 
-// A text as it is read aloud: without marks.
-std::u16string spoken(const std::u16string& hint) {
-    std::u16string text = ZUStringExtensions::simpleTexSingleLine(hint).string;
-    while (!text.empty() && text.back() == u' ') {
-        text.pop_back();
-    }
-    return text;
+NSRect statusFrame(double panelWidth) {
+    return {.x = kMargin,
+            .y = kStatusBottom,
+            .width = panelWidth - 2.0 * kMargin,
+            .height = kStatusHeight};
 }
 
-std::shared_ptr<NSTextField> addStatusField(NSView& view, DYXStatusLineTracker& tracker,
-                                            std::uint32_t mask) {
-    auto field = std::make_shared<NSTextField>(NSRect{.x = kMargin,
-                                                      .y = kStatusBottom,
-                                                      .width = view.frame().width - 2.0 * kMargin,
-                                                      .height = kStatusHeight});
-    field->setFont({.name = u"Lucida Grande", .size = kStatusFontSize});
-    field->setAutoresizingMask(mask);
-    view.addSubview(field);
-    tracker.setStatusField(field);
-    return field;
+// Words are set smaller than formulas, and single signs larger.
+constexpr double kLongWordSize = 9.0;
+constexpr double kWordSize = 10.0;
+constexpr double kFormulaSize = 11.0;
+constexpr double kSignSize = 13.0;
+
+double titleSize(std::u16string_view title, KeyGroup group) {
+    const auto isBetween = [&title](std::size_t place, char16_t first, char16_t last) {
+        return first <= title[place] && title[place] <= last;
+    };
+    if (group == KeyGroup::flat) {
+        return kLongWordSize;
+    }
+    if (title.size() > 2 && isBetween(0, u'A', u'Z') && isBetween(1, u'A', u'Z')) {
+        return title.size() > 3 ? kLongWordSize : kWordSize;
+    }
+    const bool isDigit = group == KeyGroup::digit && title.size() == 1 && isBetween(0, u'0', u'9');
+    return isDigit || group == KeyGroup::operation ? kSignSize : kFormulaSize;
 }
 
 Panel makePanel(const NSSize& size, std::uint32_t statusMask) {
     Panel panel{.view = std::make_shared<DYXStatusLineView>(
                     NSRect{.width = size.width, .height = size.height}),
                 .keys = {}};
-    addStatusField(*panel.view, *panel.view, statusMask);
+    addStatusField(*panel.view, *panel.view, statusFrame(size.width), statusMask);
     return panel;
 }
 
@@ -98,19 +103,30 @@ void setActions(const std::vector<Key>& keys, const std::function<void(NSButton&
 
 }  // namespace
 
+void addStatusField(NSView& view, DYXStatusLineTracker& tracker, const NSRect& frame,
+                    std::uint32_t autoresizingMask) {
+    auto field = std::make_shared<NSTextField>(frame);
+    field->setFont({.name = u"Lucida Grande", .size = ZUStringExtensions::kToolTipSize});
+    field->setAutoresizingMask(autoresizingMask);
+    view.addSubview(field);
+    tracker.setStatusField(std::move(field));
+}
+
 Key makeKey(const KeyDescription& description, Platform& platform) {
     const std::u16string title(description.title);
+    const NSFont font{.name = u"Lucida Grande", .size = titleSize(title, description.group)};
     Key key{.button = {}, .group = description.group};
     if (description.keyClass == KeyClass::key) {
-        key.button = std::make_shared<DYXButton>(description.frame, title, platform);
+        key.button = std::make_shared<DYXButton>(description.frame, title, font, platform);
     } else {
         key.button = std::make_shared<ZUModifierButton>(description.frame);
         key.button->setTitle(title);
+        key.button->setFont(font);
         key.button->setToggles(description.keyClass == KeyClass::lock);
     }
     key.button->setAlternateTitle(std::u16string(description.command));
     key.button->setToolTip(description.hint);
-    key.button->setAccessibilityLabel(spoken(description.hint));
+    key.button->setAccessibilityLabel(simpleTexHint(description.hint).string);
     return key;
 }
 
@@ -161,17 +177,14 @@ Panel makeMemoryPanel(Platform& platform) {
 }
 
 Panel makeConstantsPanel(Platform& platform) {
-    // The right edges of the columns, which are the places where the drawer comes to rest.
-    static constexpr std::array<double, 9> kEdges{0.0,   47.0,  91.0,  133.0, 182.0,
-                                                  229.0, 271.0, 313.0, 355.0};
+    static constexpr auto kEdges = edgesOf<8>(kConstantsPositions, 355.0);
     Panel panel = makePanel({kEdges.back(), kSideHeight}, NSViewWidthSizable);
     int number = 0;
     for (const ConstantKeyRow& row : constantKeyRows()) {
         const auto column = static_cast<std::size_t>(number / kSideRows);
-        const double left = column == 0 ? kMargin : kEdges.at(column);
+        const double left = column == 0 ? kMargin : kEdges.at(column - 1);
         addKey(panel,
-               {.frame =
-                    sideKeyFrame(number % kSideRows, left, kEdges.at(column + 1) - left - kKeyGap),
+               {.frame = sideKeyFrame(number % kSideRows, left, kEdges.at(column) - left - kKeyGap),
                 .command = row.command,
                 .title = row.title,
                 .hint = constantHint(row, platform),
@@ -184,8 +197,7 @@ Panel makeConstantsPanel(Platform& platform) {
 }
 
 Panel makeFunctionsPanel(Platform& platform) {
-    // The upper edges of the rows, from the bottom: the places where the drawer comes to rest.
-    static constexpr std::array<double, 7> kEdges{47.0, 73.0, 98.0, 126.0, 153.0, 182.0, 208.0};
+    static constexpr auto kEdges = edgesOf<7>(kFunctionsPositions, 208.0);
     Panel panel = makePanel({kWidth, kEdges.back()}, NSViewNotSizable);
     for (const FunctionKeyRow& row : functionKeyRows()) {
         addKey(panel,
@@ -247,7 +259,7 @@ ConversionPanel makeConversionPanel(Platform& platform, const HotKeys& hotKeys) 
     panel.tabView = std::make_shared<DYXTabView>(kTabFrame, std::move(items), hotKeys);
     panel.tabView->setAutoresizingMask(NSViewMinYMargin);
     panel.view->addSubview(panel.tabView);
-    addStatusField(*panel.view, *panel.tabView, NSViewMinYMargin);
+    addStatusField(*panel.view, *panel.tabView, statusFrame(kWidth), NSViewMinYMargin);
     panel.tabView->setNumberOfRows(kUnitRows);
     return panel;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string_view>
@@ -33,6 +34,10 @@ struct KeyDescription {
 
 // The record of a key: of a command key its title is rich text, of the others it's plain.
 Key makeKey(const KeyDescription& description, Platform& platform);
+
+// Puts a field into the view that tells what the control under the pointer does.
+void addStatusField(NSView& view, DYXStatusLineTracker& tracker, const NSRect& frame,
+                    std::uint32_t autoresizingMask);
 
 // A view with its keys and a status field.
 struct Panel {

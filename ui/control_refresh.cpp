@@ -29,20 +29,6 @@ constexpr std::array<ModifierKey, 8> kModifierKeys{{
     {u"memoSTO/", isArmed<5>},
 }};
 
-void showModifiers(const std::vector<Key>& keys, const DYXCalculator& calculator) {
-    for (const Key& key : keys) {
-        if (key.button->showsStateBy() == NSNoCellMask) {
-            continue;
-        }
-        const auto* const modifier = std::find_if(
-            kModifierKeys.begin(), kModifierKeys.end(),
-            [&key](const ModifierKey& row) { return row.command == key.button->alternateTitle(); });
-        if (modifier != kModifierKeys.end()) {
-            key.button->setState(modifier->isOn(calculator) ? 1 : 0);
-        }
-    }
-}
-
 }  // namespace
 
 void DYXWindowController::updateControls() {
@@ -85,9 +71,22 @@ void DYXWindowController::updateLabels() {
                                    (layout_.displayViewMode != 1 && settings_.autoHideXLabel));
 }
 
+void DYXWindowController::findModifierKeys() {
+    for (const Key& key : views_->allKeys()) {
+        const auto* const row = std::find_if(
+            kModifierKeys.begin(), kModifierKeys.end(), [&key](const ModifierKey& each) {
+                return each.command == key.button->alternateTitle();
+            });
+        if (row != kModifierKeys.end()) {
+            modifierButtons_.push_back({.button = key.button.get(), .isOn = row->isOn});
+        }
+    }
+}
+
 void DYXWindowController::updateModifiers() {
-    showModifiers(views_->keyPad.keys(), *this);
-    showModifiers(views_->memoryPanel.keys, *this);
+    for (const ModifierButton& modifier : modifierButtons_) {
+        modifier.button->setState(modifier.isOn(*this) ? 1 : 0);
+    }
 }
 
 }  // namespace talvex

@@ -15,11 +15,8 @@ void DYXWindowController::connectDrawers() {
     windowDidResize();
     for (const DrawerName name : kDrawerNames) {
         drawers_[name].record.setDelegate(this);
-    }
-    std::size_t place = 0;
-    for (const DrawerKeyRow& row : drawerKeyRows()) {
-        views_->keyPad.drawerButtons()[place++]->setAction(
-            [this, name = row.drawer](NSButton&) { toggleDrawer(drawers_[name].record); });
+        views_->keyPad.drawerButton(name).setAction(
+            [this, name](NSButton&) { toggleDrawer(drawers_[name].record); });
     }
 }
 
@@ -80,11 +77,9 @@ void DYXWindowController::drawerDidClose(NSDrawer& drawer) {
 }
 
 void DYXWindowController::drawerStateDidChange(NSDrawer& drawer) {
-    std::size_t place = 0;
-    for (const DrawerKeyRow& row : drawerKeyRows()) {
-        NSButton& button = *views_->keyPad.drawerButtons()[place++];
-        if (&drawers_[row.drawer].record == &drawer) {
-            button.setState(drawer.isOpenOrOpening() ? 1 : 0);
+    for (const DrawerName name : kDrawerNames) {
+        if (&drawers_[name].record == &drawer) {
+            views_->keyPad.drawerButton(name).setState(drawer.isOpenOrOpening() ? 1 : 0);
         }
     }
 }

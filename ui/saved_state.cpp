@@ -86,6 +86,7 @@ void DYXWindowController::applyState(const SavedState& state) {
     setFontMode(state.fontMode);
     setDigitGroupingSeparatorMode(state.digitGroupingSeparatorMode);
     setDigitGroupingDigitsMode(state.digitGroupingDigitsMode);
+    views_->xyztButton->setState(state.displayViewMode == 1 ? 1 : 0);
     for (const SavedDrawer& saved : kSavedDrawers) {
         drawers_[saved.name].wasOpen = state.*saved.wasOpen;
     }

@@ -7,6 +7,8 @@ namespace talvex {
 namespace {
 
 constexpr double kSmallFontScale = 0.75;
+constexpr NSTextAttributes kHintText{
+    .font = {.name = u"Lucida Grande", .size = ZUStringExtensions::kToolTipSize}};
 
 enum class Backslash { isOrdinary, protects };
 
@@ -86,9 +88,12 @@ NSAttributedString simpleTexTitle(std::u16string_view text, const NSFont& font) 
     return Reader(text, body, Backslash::isOrdinary).read();
 }
 
+NSAttributedString simpleTexHint(std::u16string_view text) {
+    return Reader(text, kHintText, Backslash::protects).read();
+}
+
 NSAttributedString ZUStringExtensions::simpleTexSingleLine(std::u16string_view text) {
-    NSTextAttributes body{
-        .font = {.name = u"Lucida Grande", .size = ZUStringExtensions::kToolTipSize}};
+    NSTextAttributes body = kHintText;
     Reader reader(text, body, Backslash::protects);
     NSAttributedString result = reader.read();
     if (!reader.metSuperscript()) {

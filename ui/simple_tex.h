@@ -11,6 +11,10 @@ namespace talvex {
 // The form of key titles: centred, in the font of the key; a backslash is an ordinary character.
 NSAttributedString simpleTexTitle(std::u16string_view text, const NSFont& font);
 
+// The form of hints that stand by themselves: as a status text, but without the blank that keeps
+// the height of a line.
+NSAttributedString simpleTexHint(std::u16string_view text);
+
 namespace ZUStringExtensions {
 
 // The size of the font of tool tips.

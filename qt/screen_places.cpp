@@ -1,0 +1,41 @@
+#include "qt/screen_places.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+
+namespace talvex {
+namespace {
+
+int bottomOfFirstScreen() { return QGuiApplication::primaryScreen()->geometry().bottom() + 1; }
+
+int bounded(double value) {
+    static constexpr double kFarthest = 100'000.0;
+    return static_cast<int>(std::clamp(std::isnan(value) ? 0.0 : value, -kFarthest, kFarthest));
+}
+
+}  // namespace
+
+QRect onScreen(const NSRect& frame) {
+    return {bounded(frame.x), bottomOfFirstScreen() - bounded(frame.y + frame.height),
+            bounded(frame.width), bounded(frame.height)};
+}
+
+NSRect placeOfRecord(const QRect& rect) {
+    return {.x = static_cast<double>(rect.x()),
+            .y = static_cast<double>(bottomOfFirstScreen() - rect.y() - rect.height()),
+            .width = static_cast<double>(rect.width()),
+            .height = static_cast<double>(rect.height())};
+}
+
+bool isInSight(const QRect& titleBar) {
+    constexpr int kInSight = 40;
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&titleBar](const QScreen* screen) {
+        const QRect seen = screen->availableGeometry().intersected(titleBar);
+        return seen.width() >= kInSight && seen.height() == titleBar.height();
+    });
+}
+
+}  // namespace talvex

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QRect>
+
+#include "platform/NSGeometry.h"
+
+// Places on the desktop: records count from the lower left corner of the first screen, the screen
+// itself from the upper left.
+namespace talvex {
+
+// A saved place may be any number; what is far off every screen comes nearer.
+[[nodiscard]] QRect onScreen(const NSRect& frame);
+[[nodiscard]] NSRect placeOfRecord(const QRect& rect);
+
+// Whether enough of a window's title bar is in sight to take hold of it.
+[[nodiscard]] bool isInSight(const QRect& titleBar);
+
+}  // namespace talvex
