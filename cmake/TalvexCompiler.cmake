@@ -15,7 +15,7 @@ add_library(talvex_compiler INTERFACE)
 
 target_compile_options(talvex_compiler INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
-    -Wnon-virtual-dtor -Woverloaded-virtual -Werror
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wzero-as-null-pointer-constant -Werror
     # The same bits everywhere: no fused multiply-add, and no rewriting of pow(2, x) into exp2(x).
     -ffp-contract=off -fno-builtin-pow)
 
@@ -28,7 +28,6 @@ if(TALVEX_SANITIZE)
 endif()
 
 if(TALVEX_FUZZ)
-    set(talvex_fuzzing -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
-    target_compile_options(talvex_compiler INTERFACE ${talvex_fuzzing})
-    target_link_options(talvex_compiler INTERFACE ${talvex_fuzzing})
+    target_compile_options(talvex_compiler INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(talvex_compiler INTERFACE -fsanitize=fuzzer-no-link)
 endif()

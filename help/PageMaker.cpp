@@ -30,13 +30,15 @@ std::string_view trimmed(std::string_view text) {
 }
 
 bool choose(const NSPopUpButton& popUp, std::string_view word) {
-    for (const NSMenuItem& item : popUp.menu().items) {
-        if (std::equal(item.title.begin(), item.title.end(), word.begin(), word.end())) {
-            item.action(item);
-            return true;
-        }
+    const std::vector<NSMenuItem>& items = popUp.menu().items;
+    const auto item = std::find_if(items.begin(), items.end(), [word](const NSMenuItem& each) {
+        return std::equal(each.title.begin(), each.title.end(), word.begin(), word.end());
+    });
+    if (item == items.end()) {
+        return false;
     }
-    return false;
+    item->action(*item);
+    return true;
 }
 
 bool setDigits(DYXWindowController& calculator, std::string_view word) {

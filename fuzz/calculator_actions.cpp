@@ -1,0 +1,187 @@
+#include "calculator_actions.h"
+
+#include <cmath>
+
+#include "core/function_tables.h"
+#include "display/display_modes.h"
+#include "platform/NSEvent.h"
+
+namespace talvex {
+namespace {
+
+constexpr std::size_t kLongestText = 4500;
+constexpr std::uint8_t kTextCommand = 1;
+constexpr std::uint8_t kLongestCommand = 14;
+
+// A command that does something more often than four random letters do.
+Comand likelyCommand(FuzzInput& input) {
+    const auto keys = keyPadRows();
+    const auto hotKeys = hotKeyRows();
+    const std::size_t choice = input.take<std::uint16_t>() % (keys.size() + hotKeys.size());
+    return choice < keys.size() ? commandFromString(keys[choice].command)
+                                : hotKeys[choice - keys.size()].command;
+}
+
+std::u16string randomText(FuzzInput& input) {
+    std::u16string text(input.take<std::uint8_t>() % kLongestCommand, u' ');
+    for (char16_t& character : text) {
+        character = input.take<char16_t>();
+    }
+    return text;
+}
+
+void appendItems(const NSMenu& menu, std::vector<const NSMenuItem*>& items) {
+    for (const NSMenuItem& item : menu.items) {
+        if (item.action) {
+            items.push_back(&item);
+        }
+        appendItems(item.submenu, items);
+    }
+}
+
+void chooseFromMenu(DYXWindowController& calculator, FuzzInput& input) {
+    NSMenu& menu = calculator.views().menu;
+    validateMenu(menu);
+    std::vector<const NSMenuItem*> items;
+    appendItems(menu, items);
+    const NSMenuItem& item = *items[input.take<std::uint8_t>() % items.size()];
+    if (item.enabled) {
+        item.action(item);
+    }
+}
+
+void setAnything(DYXWindowController& calculator, FuzzInput& input) {
+    const NSMenuItem item{.title = {}, .tag = input.take<std::int32_t>(), .action = {}};
+    switch (input.take<std::uint8_t>() % 8) {
+        case 0:
+            calculator.takeOutputModeFrom(item);
+            break;
+        case 1:
+            calculator.takeInputModeFrom(item);
+            break;
+        case 2:
+            calculator.takeAngleModeFrom(item);
+            break;
+        case 3:
+            calculator.takeDecimalModeFrom(item);
+            break;
+        case 4:
+            calculator.setFontMode(item.tag);
+            break;
+        case 5:
+            calculator.setDigitGroupingSeparatorMode(item.tag);
+            break;
+        case 6:
+            calculator.setDigitGroupingDigitsMode(item.tag);
+            break;
+        default:
+            calculator.xDisplay().setDigits(static_cast<std::uint32_t>(item.tag));
+            calculator.syncDisplays();
+    }
+    calculator.updateDisplay();
+}
+
+void changeLocale(DYXWindowController& calculator, HeadlessPlatform& platform, FuzzInput& input) {
+    const auto kind = input.take<std::uint8_t>();
+    platform.format.decimalSeparator = kind % 3 == 0   ? u"."
+                                       : kind % 3 == 1 ? u","
+                                                       : std::u16string(1, input.take<char16_t>());
+    platform.format.groupingSize = kind % 7;
+    calculator.applicationWillBecomeActive();
+}
+
+// Only the X line has all slots.
+void checkSlot(const TextSlot& slot, std::size_t longest) {
+    require(!slot || slot->stringValue().size() <= longest);
+}
+
+void checkLine(const DYXOutputDisplay& line) {
+    checkSlot(line.mantissaField(), kLongestText);
+    checkSlot(line.mantissaSignField(), 1);
+    checkSlot(line.exponentField(), 3);
+    checkSlot(line.exponentSignField(), 1);
+    checkSlot(line.statusField(), kLongestText);
+}
+
+}  // namespace
+
+void appendCommand(std::string& bytes, std::u16string_view command) {
+    bytes += static_cast<char>(kTextCommand);
+    bytes += static_cast<char>(command.size());
+    for (const char16_t character : command) {
+        bytes += static_cast<char>(character & 0xFF);
+        bytes += static_cast<char>(character >> 8);
+    }
+}
+
+void act(DYXWindowController& calculator, HeadlessPlatform& platform, FuzzInput& input) {
+    switch (input.take<std::uint8_t>() % 16) {
+        case 0:
+            calculator.doCommand({input.take<std::uint32_t>(), input.take<std::uint32_t>(),
+                                  input.take<std::uint32_t>()});
+            break;
+        case kTextCommand:
+            calculator.doCommand(commandFromString(randomText(input)));
+            break;
+        case 2:
+            calculator.flagsChanged(
+                {.type = NSFlagsChanged, .modifierFlags = input.take<std::uint32_t>()});
+            break;
+        case 3:
+        case 4:
+            chooseFromMenu(calculator, input);
+            break;
+        case 5:
+            setAnything(calculator, input);
+            break;
+        case 6:
+            calculator.stack().reg.at(input.take<std::uint8_t>() % 4) = input.takeNumber();
+            calculator.updateDisplay();
+            break;
+        case 7:
+            platform.pasteboard = randomText(input);
+            calculator.paste();
+            break;
+        case 8:
+            changeLocale(calculator, platform, input);
+            break;
+        case 9:
+        case 10:
+            calculator.keyDown(
+                {.type = NSKeyDown, .charactersIgnoringModifiers = {input.take<char16_t>()}});
+            break;
+        case 11:
+        case 12: {
+            const std::vector<Key> keys = calculator.views().allKeys();
+            keys[input.take<std::uint16_t>() % keys.size()].button->performClick();
+            break;
+        }
+        default:
+            calculator.doCommand(likelyCommand(input));
+    }
+}
+
+void checkInvariants(DYXWindowController& calculator) {
+    const auto state = static_cast<int>(calculator.inputState());
+    require(state >= 0 && state <= 2);
+    require(calculator.store() >= 0 && calculator.store() <= 5);
+    const DYXInputDisplay& entry = calculator.xDisplay();
+    require(entry.length() >= 0 && entry.length() <= 32);
+    require(entry.exp() <= 0 && entry.frc() <= 0);
+    checkLine(entry);
+    for (const DYXOutputDisplay* line :
+         {&calculator.yDisplay(), &calculator.zDisplay(), &calculator.tDisplay()}) {
+        checkLine(*line);
+        // A mode that there isn't, as a damaged file may have it, leaves the line as it was.
+        require(!isDisplayMode(line->effectiveOutputMode()) ||
+                !line->mantissaField()->stringValue().empty());
+    }
+    for (const DrawerName name : kDrawerNames) {
+        const NSDrawer& drawer = calculator.drawers()[name].record;
+        const double size =
+            drawer.isLevel() ? drawer.contentSize().height : drawer.contentSize().width;
+        require(std::isfinite(size) && size >= 0.0);
+    }
+}
+
+}  // namespace talvex

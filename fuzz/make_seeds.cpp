@@ -1,0 +1,143 @@
+// Writes inputs for the fuzz targets to begin with: the worked examples of the modes and of the
+// help, and whole saved states. Usage: make_seeds FOLDER TEMPLATES, with the templates of the help.
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "calculator_actions.h"
+#include "display/display_modes.h"
+#include "display/utf8.h"
+#include "display_format_tables.h"
+#include "help/KeyCaps.h"
+#include "numeric/decimal_text.h"
+#include "state/SavedState.h"
+
+namespace talvex {
+namespace {
+
+namespace fs = std::filesystem;
+
+template <class Number>
+void append(std::string& bytes, Number number) {
+    for (const char byte : std::bit_cast<std::array<char, sizeof number>>(number)) {
+        bytes += byte;
+    }
+}
+
+class Corpora {
+  public:
+    explicit Corpora(fs::path folder) : folder_(std::move(folder)) {}
+
+    void add(const std::string& target, const std::string& bytes) {
+        fs::create_directories(folder_ / target);
+        std::ofstream(folder_ / target / ("seed-" + std::to_string(count_++)), std::ios::binary)
+            << bytes;
+    }
+
+  private:
+    fs::path folder_;
+    int count_ = 0;
+};
+
+const std::array<const std::vector<FormatRow>*, mode::count> kModeRows{
+    &kFIXRows, &kSCIRows, &kENGRows, &kMONRows, &kFRCRows, &kCARRows, &kHMSRows,
+    &kDMSRows, &kHEXRows, &kDECRows, &kOCTRows, &kBINRows, &kIRRRows};
+
+// The bytes that make `display_fuzz` show the row.
+std::string displayInput(std::size_t mode, const FormatRow& row) {
+    std::string bytes;
+    append(bytes, static_cast<std::uint8_t>(mode));
+    append(bytes, row.digits * 4 + 1);
+    for (const int choice : {row.point == u'.' ? 0 : 1, 1, 1, 3, row.reducesFractions ? 0 : 1,
+                             row.displaysIrrationals ? 0 : 1, 0}) {
+        append(bytes, static_cast<std::uint8_t>(choice));
+    }
+    append(bytes, row.number);
+    return bytes;
+}
+
+void addModes(Corpora& corpora) {
+    for (std::size_t mode = 0; mode < kModeRows.size(); ++mode) {
+        for (const FormatRow& row : *kModeRows.at(mode)) {
+            corpora.add("display_fuzz", displayInput(mode, row));
+            std::string text;
+            append(text, static_cast<std::int8_t>(mode));
+            append(text, std::uint8_t{0});
+            append(text, row.number);
+            corpora.add("text_fuzz", text + shortestText(row.number));
+        }
+    }
+}
+
+// "{{example:settings|keys|result}}"
+void addExamples(Corpora& corpora, const fs::path& templates) {
+    constexpr std::string_view kMark = "{{example:";
+    const KeyCaps caps;
+    for (const fs::directory_entry& file : fs::directory_iterator(templates)) {
+        if (file.path().extension() != ".html") {
+            continue;
+        }
+        std::ifstream stream(file.path(), std::ios::binary);
+        const std::string page{std::istreambuf_iterator<char>(stream), {}};
+        for (std::size_t place = page.find(kMark); place != std::string::npos;
+             place = page.find(kMark, place + 1)) {
+            const std::size_t keys = page.find('|', place) + 1;
+            std::istringstream words(page.substr(keys, page.find('|', keys) - keys));
+            std::string actions;
+            for (std::string word; words >> word;) {
+                for (const std::u16string& command : caps.step(word).commands) {
+                    appendCommand(actions, command);
+                }
+            }
+            corpora.add("calculator_fuzz", actions);
+            corpora.add("restart_fuzz", std::string(2, '\0') + actions);
+        }
+    }
+    for (const KeyCaps::Cap& cap : caps.all()) {
+        corpora.add("text_fuzz", std::string(10, '\0') + utf8(cap.title));
+    }
+}
+
+void addStates(Corpora& corpora) {
+    for (const auto flavour : {PropertyListFlavour::xml, PropertyListFlavour::binary}) {
+        corpora.add("state_fuzz", writePropertyList(propertiesOf({}), flavour));
+    }
+}
+
+// Each function and unit once, with small numbers.
+void addFunctions(Corpora& corpora) {
+    constexpr std::uint16_t kChoices = 512;
+    for (std::uint16_t choice = 0; choice < kChoices; ++choice) {
+        std::string bytes(5, '\0');
+        for (const std::int64_t operand : {3, 2}) {
+            append(bytes, std::uint8_t{4});
+            append(bytes, operand << 30U);
+        }
+        append(bytes, choice);
+        corpora.add("function_fuzz", bytes);
+    }
+}
+
+}  // namespace
+}  // namespace talvex
+
+int main(int argc, char** argv) {
+    using namespace talvex;
+    if (argc != 3) {
+        return 2;
+    }
+    Corpora corpora(argv[1]);
+    addModes(corpora);
+    addExamples(corpora, argv[2]);
+    addStates(corpora);
+    addFunctions(corpora);
+    return 0;
+}
