@@ -33,8 +33,8 @@ constexpr std::array<TextImage, 18> kTextImages{{
     {u"powxySmall.tiff", u"x^y", 11},
     {u"lnyxSmall.tiff", u"log_{y}x", 11},
     {u"lnxySmall.tiff", u"log_{x}y", 11},
-    {u"pointSmall.tiff", u".", 17},
-    {u"commaSmall.tiff", u",", 17},
+    {u"pointSmall.tiff", u".", 13},
+    {u"commaSmall.tiff", u",", 13},
 }};
 
 // The small icons of the title bar: rectangles on a grid of 9 by 9, origin at the lower left.

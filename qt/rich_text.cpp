@@ -1,8 +1,11 @@
 #include "qt/rich_text.h"
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QRawFont>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <vector>
 
 #include "qt/conversions.h"
@@ -28,37 +31,77 @@ std::vector<Piece> piecesOf(const NSAttributedString& text) {
     return pieces;
 }
 
-QFont fontOf(const Piece& piece, double scale) {
-    NSFont font = piece.attributes.font;
-    font.size *= scale;
-    return toQFont(font);
-}
-
-double widthOf(const std::vector<Piece>& pieces, double scale) {
-    double width = 0.0;
-    for (const Piece& piece : pieces) {
-        width += QFontMetricsF(fontOf(piece, scale)).horizontalAdvance(piece.text);
+// A piece in its font, as it goes to the screen. Glyphs are found and measured once; a text that
+// the font has no glyphs for is left to the toolkit, which knows other fonts.
+class Run {
+  public:
+    Run(const Piece& piece, double scale) : text_(piece.text), attributes_(piece.attributes) {
+        attributes_.font.size *= scale;
+        font_ = toQFont(attributes_.font);
+        const QRawFont rawFont = QRawFont::fromFont(font_);
+        const QList<quint32> glyphs = rawFont.glyphIndexesForString(text_);
+        if (glyphs.contains(0)) {
+            width_ = QFontMetricsF(font_).horizontalAdvance(text_);
+            return;
+        }
+        QList<QPointF> positions;
+        for (const QPointF& advance :
+             rawFont.advancesForGlyphIndexes(glyphs, QRawFont::KernedAdvances)) {
+            positions.push_back(QPointF(width_, 0.0));
+            width_ += advance.x();
+        }
+        glyphs_.setRawFont(rawFont);
+        glyphs_.setGlyphIndexes(glyphs);
+        glyphs_.setPositions(positions);
     }
-    return width;
+
+    [[nodiscard]] double width() const { return width_; }
+    [[nodiscard]] double size() const { return attributes_.font.size; }
+    [[nodiscard]] const QFont& font() const { return font_; }
+
+    void paint(QPainter& painter, double x, double baseline, double bodySize) const {
+        const QPointF place(x, baseline + offset(bodySize));
+        if (glyphs_.isEmpty()) {
+            painter.setFont(font_);
+            painter.drawText(place, text_);
+        } else {
+            painter.drawGlyphRun(place, glyphs_);
+        }
+    }
+
+  private:
+    [[nodiscard]] double offset(double bodySize) const {
+        static constexpr double kRaise = 0.36;
+        static constexpr double kLower = 0.18;
+        return attributes_.superscript > 0   ? -kRaise * bodySize
+               : attributes_.superscript < 0 ? kLower * bodySize
+                                             : 0.0;
+    }
+
+    QString text_;
+    NSTextAttributes attributes_;
+    QFont font_;
+    QGlyphRun glyphs_;
+    double width_ = 0.0;
+};
+
+double widthOf(const std::vector<Run>& runs) {
+    return std::accumulate(runs.begin(), runs.end(), 0.0,
+                           [](double sum, const Run& run) { return sum + run.width(); });
 }
 
-constexpr double kRaise = 0.36;  // of the body font's size
-constexpr double kLower = 0.18;
-
-double offsetOf(const NSTextAttributes& attributes, double bodySize) {
-    return attributes.superscript > 0   ? -kRaise * bodySize
-           : attributes.superscript < 0 ? kLower * bodySize
-                                        : 0.0;
-}
-
-// How much smaller the text has to be to fit.
-double fittingScale(const std::vector<Piece>& pieces, double width) {
+// Smaller than the fonts say if the text doesn't fit otherwise.
+std::vector<Run> fittingRuns(const std::vector<Piece>& pieces, double width) {
     constexpr double kSmallest = 0.6;
-    double scale = 1.0;
-    while (scale > kSmallest && widthOf(pieces, scale) > width) {
-        scale -= 0.05;
+    std::vector<Run> runs;
+    for (double scale = 1.0; runs.empty() || (scale > kSmallest && widthOf(runs) > width);
+         scale -= 0.05) {
+        runs.clear();
+        for (const Piece& piece : pieces) {
+            runs.emplace_back(piece, scale);
+        }
     }
-    return scale;
+    return runs;
 }
 
 void paintPieces(QPainter& painter, const QRectF& rect, const std::vector<Piece>& pieces,
@@ -66,23 +109,17 @@ void paintPieces(QPainter& painter, const QRectF& rect, const std::vector<Piece>
     if (pieces.empty()) {
         return;
     }
-    const double scale = fittingScale(pieces, rect.width());
-    double bodySize = 0.0;
-    for (const Piece& piece : pieces) {
-        bodySize = std::max(bodySize, piece.attributes.font.size * scale);
-    }
-    NSFont bodyFont = pieces.front().attributes.font;
-    bodyFont.size = bodySize;
-    const double capHeight = QFontMetricsF(toQFont(bodyFont)).capHeight();
+    const std::vector<Run> runs = fittingRuns(pieces, rect.width());
+    const Run& body = *std::max_element(
+        runs.begin(), runs.end(),
+        [](const Run& left, const Run& right) { return left.size() < right.size(); });
+    const double capHeight = QFontMetricsF(body.font()).capHeight();
     const double baseline = std::round(rect.center().y() + capHeight / 2.0);
-    double x = alignment == NSTextAlignment::left
-                   ? rect.left()
-                   : rect.center().x() - widthOf(pieces, scale) / 2.0;
-    for (const Piece& piece : pieces) {
-        const QFont font = fontOf(piece, scale);
-        painter.setFont(font);
-        painter.drawText(QPointF(x, baseline + offsetOf(piece.attributes, bodySize)), piece.text);
-        x += QFontMetricsF(font).horizontalAdvance(piece.text);
+    double x =
+        alignment == NSTextAlignment::left ? rect.left() : rect.center().x() - widthOf(runs) / 2.0;
+    for (const Run& run : runs) {
+        run.paint(painter, x, baseline, body.size());
+        x += run.width();
     }
 }
 
