@@ -63,6 +63,7 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
     body_->raise();
     placeOnScreen();
     controller_.views().window.setObserver(this);
+    whenScreensChange(*this, [this] { comeIntoSight(); });
     showPieces();
 }
 
@@ -147,12 +148,23 @@ void CalculatorWindow::makeRoomFor(const QRect& wanted) {
     }
 }
 
-// A place that is on no screen any more gives way to the middle of one.
 void CalculatorWindow::placeOnScreen() {
-    if (controller_.hasSavedFrame() && wouldBeInSight(placeOfCanvas())) {
+    if (controller_.hasSavedFrame()) {
         move(placeOfCanvas());
-        return;
+        comeIntoSight();
+    } else {
+        moveToMiddle();
     }
+}
+
+// A place that is on no screen, or not any more, gives way to the middle of one.
+void CalculatorWindow::comeIntoSight() {
+    if (!wouldBeInSight(pos())) {
+        moveToMiddle();
+    }
+}
+
+void CalculatorWindow::moveToMiddle() {
     const QRect visible = QGuiApplication::primaryScreen()->availableGeometry();
     move(visible.center() - bodyRect().center());
 }

@@ -46,6 +46,8 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void showPieces();
     void makeRoomFor(const QRect& wanted);
     void placeOnScreen();
+    void comeIntoSight();
+    void moveToMiddle();
     // Where the canvas has to stand for the body to be where the record says.
     [[nodiscard]] QPoint placeOfCanvas() const;
     [[nodiscard]] bool wouldBeInSight(const QPoint& placeOfCanvas) const;

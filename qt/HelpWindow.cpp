@@ -24,13 +24,16 @@ constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
 // What follows it in the style sheet is for a dark desktop.
 constexpr auto kDarkMark = "/* dark */";
 
+QRect titleBarAbove(const QRect& content) {
+    return {content.topLeft() - QPoint(0, kBar), QSize(content.width(), kBar)};
+}
+
 // Below the title bar that the desktop gives it. What doesn't lie on a screen is brought onto the
 // first one.
 QRect contentOnScreen(const NSRect& frame) {
     QRect content = onScreen(frame).adjusted(0, kBar, 0, 0);
     const QRect visible = QGuiApplication::primaryScreen()->availableGeometry();
-    const bool isSeen =
-        isInSight({content.topLeft() - QPoint(0, kBar), QSize(content.width(), kBar)});
+    const bool isSeen = isInSight(titleBarAbove(content));
     content.setSize(
         content.size().expandedTo(kSmallest).boundedTo(visible.size() - QSize(0, kBar)));
     if (!isSeen) {
@@ -125,6 +128,13 @@ HelpWidget::HelpWidget(DYXWindowController& controller)
     setMinimumSize(kSmallest);
     setFocusProxy(browser_);
     addShortcuts();
+    whenScreensChange(*this, [this] { comeIntoSight(); });
+}
+
+void HelpWidget::comeIntoSight() {
+    if (isVisible() && !isInSight(titleBarAbove(geometry()))) {
+        setGeometry(contentOnScreen(controller_.views().help.window.frame()));
+    }
 }
 
 void HelpWidget::addShortcuts() {

@@ -45,6 +45,7 @@ class HelpWidget final : public QWidget {
 
   private:
     void addShortcuts();
+    void comeIntoSight();
     void tellPlace();
 
     DYXWindowController& controller_;

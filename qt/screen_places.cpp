@@ -38,4 +38,17 @@ bool isInSight(const QRect& titleBar) {
     });
 }
 
+// Queued, so that the desktop has put its windows where it wants them.
+void whenScreensChange(QObject& context, const std::function<void()>& action) {
+    const auto watch = [&context, action](const QScreen* screen) {
+        QObject::connect(screen, &QScreen::availableGeometryChanged, &context, action,
+                         Qt::QueuedConnection);
+    };
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    std::for_each(screens.begin(), screens.end(), watch);
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &context, watch);
+    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &context, action,
+                     Qt::QueuedConnection);
+}
+
 }  // namespace talvex

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QObject>
 #include <QRect>
+#include <functional>
 
 #include "platform/NSGeometry.h"
 
@@ -14,5 +16,8 @@ namespace talvex {
 
 // Whether enough of a window's title bar is in sight to take hold of it.
 [[nodiscard]] bool isInSight(const QRect& titleBar);
+
+// Runs the action whenever a screen came, went or changed, for as long as the context lives.
+void whenScreensChange(QObject& context, const std::function<void()>& action);
 
 }  // namespace talvex

@@ -177,6 +177,25 @@ class EndToEnd(unittest.TestCase):
         self.calculator = Calculator()
         self.expect_x("42.000" + THIN + "0")
 
+    def test_a_smaller_screen_brings_the_window_back_into_sight(self):
+        def place():
+            box = self.calculator.key("enter").get_extents(Atspi.CoordType.SCREEN)
+            return box.x, box.y
+
+        def xrandr(*arguments):
+            subprocess.run(["xrandr", *arguments], check=True)
+
+        window = subprocess.check_output(["xdotool", "search", "--onlyvisible", "--class", "talvex"])
+        xdotool("windowmove", int(window.split()[0]), 600, 500)
+        wait_until(lambda: place() > (800, 600), "the window to move away")
+        xrandr("--newmode", "small", *"38.25 800 832 912 1024 600 603 607 624".split())
+        xrandr("--addmode", "screen", "small")
+        try:
+            xrandr("--output", "screen", "--mode", "small")
+            wait_until(lambda: place() < (800, 600) and place()[1] < 600, "the window to be back")
+        finally:
+            xrandr("--output", "screen", "--mode", "1280x1024")
+
     def open_drawer(self, name, key):
         """Opens it, and waits until the key in it has come to rest."""
         self.calculator.click(f"open or close the drawer of {name}")
