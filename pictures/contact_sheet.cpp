@@ -1,4 +1,5 @@
-// Makes pictures of all layouts, drawers and modes. Usage: contact_sheet FOLDER light|dark
+// Makes pictures of all layouts, drawers, modes and pages of the help. Usage: contact_sheet FOLDER
+// light|dark
 
 #include <QApplication>
 #include <QDir>
@@ -10,6 +11,7 @@
 
 #include "Stage.h"
 #include "display/display_modes.h"
+#include "qt/HelpWindow.h"
 #include "qt/conversions.h"
 #include "qt/palette.h"
 
@@ -143,6 +145,27 @@ std::vector<Picture> modes() {
     return pictures;
 }
 
+// Each page from its top, as long as it is or nearly so.
+std::vector<Picture> helpPictures() {
+    constexpr QSize kSize(760, 1400);
+    HeadlessPlatform platform;
+    platform.resources = QDir(QApplication::applicationDirPath())
+                             .filePath(QStringLiteral("../Resources"))
+                             .toStdString();
+    DYXWindowController controller(platform);
+    NSMatrix& matrix = *controller.views().help.matrix;
+    HelpWidget window(controller);
+    window.resize(kSize);
+    std::vector<Picture> pictures;
+    for (int row = 0; row < matrix.numberOfRows(); ++row) {
+        matrix.performClickAt(row, 0);
+        window.browser().loadRequested();
+        window.followPage(window.browser().source());
+        pictures.push_back({toQString(matrix.cellAt(row, 0).title), window.grab().toImage()});
+    }
+    return pictures;
+}
+
 bool save(const QString& path, const QImage& image) {
     if (image.save(path)) {
         return true;
@@ -153,8 +176,13 @@ bool save(const QString& path, const QImage& image) {
 
 QPalette paletteOf(bool dark) {
     QPalette palette;
-    palette.setColor(QPalette::Window, dark ? QColor(0x2A, 0x2C, 0x30) : QColor(Qt::white));
-    palette.setColor(QPalette::WindowText, dark ? QColor(Qt::white) : QColor(Qt::black));
+    for (const QPalette::ColorRole ground : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+        palette.setColor(ground, dark ? QColor(0x2A, 0x2C, 0x30) : QColor(Qt::white));
+    }
+    for (const QPalette::ColorRole text :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(text, dark ? Qt::white : Qt::black);
+    }
     return palette;
 }
 
@@ -182,6 +210,7 @@ int main(int argc, char** argv) {
                            save(folder.filePath("all_drawers.png"), opened[4].image) &&
                            save(folder.filePath("layouts.png"), sheetOf(views, kWidth)) &&
                            save(folder.filePath("drawers.png"), sheetOf(opened, 2 * kWidth)) &&
-                           save(folder.filePath("modes.png"), sheetOf(modes(), kWidth));
+                           save(folder.filePath("modes.png"), sheetOf(modes(), kWidth)) &&
+                           save(folder.filePath("help.png"), sheetOf(helpPictures(), 3 * kWidth));
     return isWritten ? 0 : 1;
 }

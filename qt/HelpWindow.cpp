@@ -84,7 +84,7 @@ void HelpBrowser::follow(const QUrl& link) {
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     QVariant resource = QTextBrowser::loadResource(type, name);
-    if (type != QTextDocument::StyleSheetResource || isDark(palette())) {
+    if (type != QTextDocument::StyleSheetResource || isDark(palette().color(QPalette::Base))) {
         return resource;
     }
     const QByteArray sheet = resource.toByteArray();

@@ -57,9 +57,9 @@ const KeyColors& WindowColors::key(KeyGroup group) const {
     return function;
 }
 
-bool isDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() < kMiddleLightness;
-}
+bool isDark(const QColor& ground) { return ground.lightness() < kMiddleLightness; }
+
+bool isDark(const QPalette& palette) { return isDark(palette.color(QPalette::Window)); }
 
 const WindowColors& windowColors(const QPalette& palette) {
     static const WindowColors light = lightColors();

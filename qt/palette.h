@@ -36,6 +36,7 @@ struct WindowColors {
     }
 };
 
+[[nodiscard]] bool isDark(const QColor& ground);
 [[nodiscard]] bool isDark(const QPalette& palette);
 [[nodiscard]] const WindowColors& windowColors(const QPalette& palette);
 
