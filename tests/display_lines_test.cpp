@@ -180,64 +180,6 @@ TEST_F(WindowLines, ShowOneNumberInThirteenModes) {
     }
 }
 
-TEST_F(WindowLines, ShowAllFourWithTheTopLeftCornerAndTheKeyPadInPlace) {
-    WindowViews& views = controller.views();
-    const NSRect window{100, 300, 404, 233};
-    views.window.setFrame(window);
-    const NSRect keyPad = views.keyPad.view()->frame();
-    EXPECT_EQ(views.displayView->frame(), (NSRect{5, 168, 394, 41}));
-    EXPECT_TRUE(controller.xDisplay().labelField()->isHidden());
-    for (int round = 0; round < 2; ++round) {
-        EXPECT_EQ(views.xyztButton->image(), u"xyztOn");
-        views.xyztButton->performClick();
-        EXPECT_EQ(views.window.frame(), (NSRect{100, 240, 404, 293}));
-        EXPECT_EQ(views.contentView->frame(), (NSRect{0, 0, 404, 271}));
-        EXPECT_EQ(views.displayView->frame(), (NSRect{5, 168, 394, 101}));
-        EXPECT_EQ(views.keyPad.view()->frame(), keyPad);
-        EXPECT_EQ(views.displayView->autoresizingMask(), NSViewWidthSizable | NSViewMinYMargin);
-        EXPECT_EQ(views.keyPad.view()->autoresizingMask(), NSViewMinYMargin);
-        EXPECT_EQ(controller.xDisplay().mantissaField()->frame(), (NSRect{31, 20, 319, 17}));
-        EXPECT_EQ(controller.tDisplay().mantissaField()->frame(), (NSRect{31, 80, 319, 17}));
-        EXPECT_FALSE(controller.xDisplay().labelField()->isHidden());
-        EXPECT_FALSE(controller.tDisplay().labelField()->isHidden());
-        EXPECT_EQ(views.xyztButton->image(), u"xyztOff");
-        views.xyztButton->performClick();
-        EXPECT_EQ(views.window.frame(), window);
-        EXPECT_EQ(views.displayView->frame(), (NSRect{5, 168, 394, 41}));
-        EXPECT_EQ(views.keyPad.view()->frame(), keyPad);
-        EXPECT_TRUE(controller.xDisplay().labelField()->isHidden());
-    }
-}
-
-// Every order of the two switches leads to the size of the layout, with the top left corner in
-// place.
-TEST_F(WindowLines, ShowAndHideTheKeyPad) {
-    const NSRect start = controller.views().window.frame();
-    const auto expectLayout = [&](double width, double height, bool hasKeyPad) {
-        const NSRect& frame = controller.views().window.frame();
-        EXPECT_EQ(frame.width, width);
-        EXPECT_EQ(frame.height, height + NSWindow::kTitleBarHeight);
-        EXPECT_EQ(frame.x, start.x);
-        EXPECT_EQ(frame.y + frame.height, start.y + start.height);
-        EXPECT_EQ(controller.views().keyPad.view()->isHidden(), !hasKeyPad);
-        const NSRect& display = controller.views().displayView->frame();
-        EXPECT_EQ(display.width, width - 10);
-        EXPECT_EQ(display.y + display.height, height - 2);
-    };
-    const NSRect display = controller.views().displayView->frame();
-    const NSRect keyPad = controller.views().keyPad.view()->frame();
-    controller.takeShowKeyPadFrom();
-    expectLayout(274, 45, false);
-    controller.takeShowYZTRegistersFrom();
-    expectLayout(274, 105, false);
-    controller.takeShowKeyPadFrom();
-    expectLayout(404, 271, true);
-    controller.takeShowYZTRegistersFrom();
-    expectLayout(404, 211, true);
-    EXPECT_EQ(controller.views().displayView->frame(), display);
-    EXPECT_EQ(controller.views().keyPad.view()->frame(), keyPad);
-}
-
 TEST(DataExtensions, AreBigEndianBytes) {
     using namespace DYXDataExtensions;
     using Bytes = std::vector<std::uint8_t>;
