@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     talvex::QtPlatform platform;
     talvex::DYXWindowController controller(platform);
-    const talvex::HelpPresenter help(controller);
+    talvex::HelpPresenter help(controller);
     talvex::CalculatorWindow window(controller);
     const talvex::TerminationSignals terminationSignals;
     QObject::connect(&application, &QGuiApplication::applicationStateChanged, &window,
@@ -52,12 +52,8 @@ int main(int argc, char** argv) {
                      Qt::DirectConnection);
     window.show();
     if (controller.views().help.window.isVisible()) {
-        // Once the calculator is there, and behind it.
-        QTimer::singleShot(0, &window, [&controller, &window] {
-            controller.views().help.window.makeKeyAndOrderFront();
-            window.raise();
-            window.activateWindow();
-        });
+        // Once the calculator is there.
+        QTimer::singleShot(0, &window, [&help, &window] { help.showBehind(window); });
     }
     return QApplication::exec();
 }

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QShortcut>
+#include <QWindow>
 
 #include "qt/conversions.h"
 #include "qt/palette.h"
@@ -205,6 +206,35 @@ void HelpPresenter::windowDidChange(const NSWindow& window) {
     if (widget_) {
         widget_->followRecord();
     }
+}
+
+namespace {
+
+// The window manager puts a new window to the front when it gets to it, not when it is asked for.
+class FrontKeeper final : public QObject {
+  public:
+    FrontKeeper(QWindow& newcomer, QWidget& front) : QObject(&newcomer), front_(front) {
+        newcomer.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*newcomer*/, QEvent* event) override {
+        if (event->type() == QEvent::Expose) {
+            front_.raise();
+            front_.activateWindow();
+            deleteLater();
+        }
+        return false;
+    }
+
+  private:
+    QWidget& front_;
+};
+
+}  // namespace
+
+void HelpPresenter::showBehind(QWidget& front) {
+    controller_.views().help.window.makeKeyAndOrderFront();
+    new FrontKeeper(*widget_->windowHandle(), front);
 }
 
 void HelpPresenter::windowDidOrderFront(const NSWindow& /*window*/) {

@@ -66,6 +66,10 @@ class HelpPresenter final : public NSWindowObserver, public WebViewObserver {
     void webViewDidLoad() override;
     void webViewDidChangeTextSize() override;
 
+    // Shows the window at the start of the program, and leaves the keyboard and the view with the
+    // one in front.
+    void showBehind(QWidget& front);
+
     // Null while it has never been shown.
     [[nodiscard]] HelpWidget* widget() { return widget_.get(); }
 

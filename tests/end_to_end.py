@@ -2,8 +2,11 @@
 """Drives the real program on a virtual desktop with real keys and clicks, and reads its display as
 a screen reader does. Usage: end_to_end.py PROGRAM, within a D-Bus session of its own."""
 import os
+import pathlib
+import shutil
 import subprocess
 import sys
+import time
 import unittest
 
 import gi
@@ -95,10 +98,14 @@ class EndToEnd(unittest.TestCase):
         wait_until(lambda: self.calculator.line("X") == "X: " + text,
                    f"X to be {text!r}, it is {self.calculator.line('X')!r}")
 
+    def wait_for_windows(self, count):
+        windows = ["xdotool", "search", "--onlyvisible", "--class", "talvex"]
+        wait_until(lambda: len(subprocess.check_output(windows).split()) == count,
+                   f"{count} windows")
+
     def choose_input_mode(self, number):
         self.calculator.click("input mode")
-        windows = ["xdotool", "search", "--onlyvisible", "--class", "talvex"]
-        wait_until(lambda: len(subprocess.check_output(windows).split()) == 2, "the menu")
+        self.wait_for_windows(2)
         xdotool("key", *["Down"] * (number + 1), "Return")
 
     def test_typed_keys_add(self):
@@ -176,6 +183,18 @@ class EndToEnd(unittest.TestCase):
         PROCESS.restart()
         self.calculator = Calculator()
         self.expect_x("42.000" + THIN + "0")
+
+    def test_the_first_start_shows_the_help_and_leaves_the_keys_with_the_calculator(self):
+        PROCESS.end()
+        shutil.rmtree(pathlib.Path(os.environ["HOME"], "Library"))
+        PROCESS.restart()
+        self.calculator = Calculator()
+        self.wait_for_windows(2)
+        time.sleep(0.5)  # for the window manager to settle whose the keyboard is
+        xdotool("key", "7")
+        self.expect_x("7")
+        xdotool("key", "F1")
+        self.wait_for_windows(1)
 
     def test_a_smaller_screen_brings_the_window_back_into_sight(self):
         def place():
