@@ -47,7 +47,7 @@ void chooseWorst(benchmark::State& state) {
         state, [] { return choose(2147483647.0, 4294967295.0); },
         [] { return naiveBinomial(4294967295U, 2147483647U); });
 }
-BENCHMARK(chooseWorst)->Iterations(1);
+BENCHMARK(chooseWorst)->Name("choose/worst_operands")->Iterations(1);
 
 void bessel(benchmark::State& state, double order, double x) {
     compare(
