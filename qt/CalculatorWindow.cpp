@@ -63,7 +63,10 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
     body_->raise();
     placeOnScreen();
     controller_.views().window.setObserver(this);
-    whenScreensChange(*this, [this] { comeIntoSight(); });
+    whenScreensChange(*this, [this] {
+        comeIntoSight();
+        tellPlace();
+    });
     showPieces();
 }
 
@@ -178,7 +181,10 @@ bool CalculatorWindow::wouldBeInSight(const QPoint& placeOfCanvas) const {
     return isInSight({placeOfCanvas + bodyRect().topLeft(), QSize(bodyRect().width(), kBar)});
 }
 
-void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) {
+void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) { tellPlace(); }
+
+// The record counts from the bottom of the first screen, which may change, too.
+void CalculatorWindow::tellPlace() {
     NSWindow& record = controller_.views().window;
     const QPoint corner = pos() + bodyRect().topLeft();
     if (onScreen(record.frame()).topLeft() != corner) {

@@ -47,6 +47,7 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void makeRoomFor(const QRect& wanted);
     void placeOnScreen();
     void comeIntoSight();
+    void tellPlace();
     void moveToMiddle();
     // Where the canvas has to stand for the body to be where the record says.
     [[nodiscard]] QPoint placeOfCanvas() const;

@@ -129,7 +129,10 @@ HelpWidget::HelpWidget(DYXWindowController& controller)
     setMinimumSize(kSmallest);
     setFocusProxy(browser_);
     addShortcuts();
-    whenScreensChange(*this, [this] { comeIntoSight(); });
+    whenScreensChange(*this, [this] {
+        comeIntoSight();
+        tellPlace();
+    });
 }
 
 void HelpWidget::comeIntoSight() {
