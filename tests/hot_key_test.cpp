@@ -15,7 +15,6 @@ constexpr HotKeyState kNothing{};
 constexpr HotKeyState kStore{.isStoreArmed = true};
 constexpr HotKeyState kRecall{.isRecallArmed = true};
 constexpr HotKeyState kShift{.isInverse = true};
-constexpr HotKeyState kControl{.isHyperbolic = true};
 constexpr HotKeyState kHex{.isHexInput = true};
 constexpr HotKeyState kHexRecall{.isRecallArmed = true, .isHexInput = true};
 
