@@ -193,15 +193,5 @@ TEST_F(Clipboard, TheMenuShowsAndChangesEverySetting) {
               (std::set<Text>{u"F1", u"Ctrl+Ins", u"Meta+C", u"Shift+Ins", u"Meta+V", u"Meta+Q"}));
 }
 
-TEST_F(Clipboard, TheLockDisablesTheOutputModes) {
-    NSMenu& outputs = controller.views().menu.items[1].submenu.items[1].submenu;
-    validateMenu(controller.views().menu);
-    EXPECT_FALSE(outputs.items[5].enabled);
-    controller.takeLockOutputAndInputFrom(itemOf(0));
-    validateMenu(controller.views().menu);
-    EXPECT_TRUE(outputs.items[5].enabled);
-    EXPECT_EQ(controller.views().menu.items[1].submenu.items[3].title, u"Lock Output to Input");
-}
-
 }  // namespace
 }  // namespace talvex

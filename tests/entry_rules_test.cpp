@@ -227,23 +227,5 @@ TEST(EntryRules, AChangeOfModeKeepsTheEntry) {
     }
 }
 
-TEST(EntryRules, TheCountsHoldThroughAnySeriesOfModes) {
-    KeyScript script;
-    for (const ModeRules& typedIn : kModeRules) {
-        for (const ModeRules& editedIn : kModeRules) {
-            SCOPED_TRACE(testing::Message() << typedIn.mode << " to " << editedIn.mode);
-            script.inMode(typedIn.mode);
-            script.press("1 . 1 1 . 1");
-            script.inMode(editedIn.mode);
-            for (const std::string_view key : {".", "1", "BACK", "BACK", "BACK", "1", "BACK"}) {
-                script.press(key);
-                EXPECT_LE(script.entry().exp(), 0);
-                EXPECT_LE(script.entry().frc(), 0);
-                EXPECT_LE(script.entry().length(), 32);
-            }
-        }
-    }
-}
-
 }  // namespace
 }  // namespace talvex

@@ -91,17 +91,6 @@ TEST_F(Keyboard, RecallsWithEveryDigitAfterAClickOnRecall) {
     EXPECT_EQ(button(u"memoRCL ").state(), 0);
 }
 
-TEST_F(Keyboard, StoresOnceAfterAClickOnStore) {
-    setX(7);
-    click(u"memoSTO ");
-    press(u"3");
-    EXPECT_EQ(controller.mem()[3], 7);
-    EXPECT_EQ(controller.store(), 0);
-    press(u"4");
-    EXPECT_EQ(x(), 4);
-    EXPECT_EQ(controller.mem()[4], 0);
-}
-
 TEST_F(Keyboard, KeepsAClickedInverseForTheNextKeys) {
     controller.angleMode = 1;
     setX(1);

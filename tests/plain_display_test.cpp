@@ -36,19 +36,6 @@ TEST(PlainFormats, GroupBySizeButScientificAlwaysByThree) {
     }
 }
 
-TEST(PlainFormats, BoundTheirTextWhateverThePrecision) {
-    DYXOutputDisplay line(DYXCalculator::plainFields());
-    for (const std::uint32_t digits : {1075U, 4'000'000'000U, 4'294'967'295U}) {
-        line.setDigits(digits);
-        line.setMaxDigits(19);
-        line.setOutputTo(1.0);
-        EXPECT_EQ(shownBy(line), (Shown{u"1." + Text(1074, u'0'), u"00"}));
-        line.setMaxDigits(4'294'967'295U);
-        line.setOutputTo(-1.0);
-        EXPECT_EQ(shownBy(line), (Shown{u"1." + Text(1074, u'0'), u"", u"", u"-"}));
-    }
-}
-
 TEST(DigitGroups, StandBehindFullGroupsOnly) {
     using namespace ZUMutableStringExtensions;
     const struct {
@@ -94,22 +81,6 @@ TEST(OutputDisplay, ShowsErrorsAndInfinitiesAsWordsInAnyMode) {
         EXPECT_EQ(shownBy(line), (Shown{u"\u221E"}));
         line.setOutputTo(-kInfinity);
         EXPECT_EQ(shownBy(line), (Shown{u"\u221E", u"", u"", u"-"}));
-    }
-}
-
-TEST(OutputDisplay, TitlesAndAlignsByMode) {
-    DYXOutputDisplay line(DYXCalculator::plainFields());
-    const Text names[]{u"FIX", u"SCI", u"ENG", u"MON", u"FRC", u"CAR", u"HMS",
-                       u"DMS", u"HEX", u"DEC", u"OCT", u"BIN", u"IRR"};
-    for (std::int32_t number = 0; number < 13; ++number) {
-        SCOPED_TRACE(number);
-        line.setOutputMode(number);
-        line.updateOutputJustification();
-        const bool isInteger = number >= 8 && number <= 11;
-        EXPECT_EQ(line.mantissaField()->alignment(),
-                  isInteger ? NSTextAlignment::right : NSTextAlignment::left);
-        EXPECT_EQ(line.outputModeTitle(), names[number] + u'\u25B8');
-        EXPECT_EQ(inputModeTitle(number), u'\u25B8' + names[number]);
     }
 }
 

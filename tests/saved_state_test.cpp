@@ -301,29 +301,5 @@ TEST_F(SavedFile, SurvivesEveryTruncationAndManyFlippedBits) {
     }
 }
 
-TEST_F(SavedFile, TakesAnyNumberAsItStands) {
-    for (const std::int64_t number :
-         {-1LL, 13LL, 2'147'483'647LL, -2'147'483'648LL, 4'000'000'000LL}) {
-        PropertyDictionary dictionary = propertiesOf({});
-        for (auto& [key, value] : dictionary) {
-            if (std::holds_alternative<std::int64_t>(value)) {
-                value = number;
-            } else if (std::holds_alternative<PropertyData>(value)) {
-                value = PropertyData(16, static_cast<std::uint8_t>(number));
-            }
-        }
-        put(dictionary);
-        DYXWindowController calculator(platform);
-        for (int mode = 0; mode < 13; ++mode) {
-            calculator.takeInputModeFrom(itemOf(mode));
-            calculator.keyDown({.type = NSKeyDown, .charactersIgnoringModifiers = {u'1'}});
-            calculator.copy();
-            calculator.paste();
-        }
-        calculator.applicationWillTerminate();
-        EXPECT_EQ(StateFile(home).read()->angleMode, static_cast<std::int32_t>(number));
-    }
-}
-
 }  // namespace
 }  // namespace talvex

@@ -184,19 +184,6 @@ TEST_F(Window, HidesTheKeyPadWhenTheLastDrawerHasClosed) {
     EXPECT_EQ(drawer(DrawerName::constants).state(), NSDrawerClosedState);
 }
 
-TEST_F(Window, ConvertsAndRecallsByClicks) {
-    open(DrawerName::conversion);
-    open(DrawerName::constants);
-    for (const char* name : {"5", "foot", "metre", "inch"}) {
-        QTest::mouseClick(button(QString::fromLatin1(name)), Qt::LeftButton);
-    }
-    EXPECT_NEAR(controller.stack().x(), 60.0, 1e-13);
-    QTest::mouseClick(button("Temperature"), Qt::LeftButton);
-    QTest::mouseClick(button("degree Celsius"), Qt::LeftButton);
-    QTest::mouseClick(button("speed of light in vacuum"), Qt::LeftButton);
-    EXPECT_EQ(controller.stack().x(), 299792458.0);
-}
-
 TEST_F(Window, CanBeWalkedThroughByTheKeyboardAlone) {
     open(DrawerName::memory);
     std::set<QString> reached;
