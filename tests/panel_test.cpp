@@ -181,6 +181,17 @@ TEST_F(Panels, KeepTheTextOfTheNextKeyWhenTheLastOneIsLeftLate) {
     EXPECT_EQ(padText(), u"");
 }
 
+TEST_F(Panels, TellNothingAboutAKeyThatHasGone) {
+    enter(key(u"unitGSIN", false));
+    controller.takeShowKeyPadFrom();
+    controller.takeShowKeyPadFrom();
+    EXPECT_EQ(padText(), u"");
+    enter(*tabs().tabViewItems()[1].view->subviews().front());
+    EXPECT_NE(tabs().statusField()->stringValue(), u"");
+    tabs().selectTabViewItemAtIndex(2);
+    EXPECT_EQ(tabs().statusField()->stringValue(), u"");
+}
+
 TEST_F(Panels, TellNothingWhileStatusLinesAreOff) {
     const auto tracked = [this] {
         std::size_t count = 0;

@@ -147,6 +147,23 @@ TEST_F(SavedFile, RevertsToWhatWasSaved) {
     EXPECT_EQ(calculator.xDisplay().mantissaField()->stringValue(), u"3.500\u20090");
 }
 
+TEST_F(SavedFile, LeavesTheLayoutAloneWithoutAFrame) {
+    put({{"keyPadHidden", true},
+         {"displayViewMode", std::int64_t{1}},
+         {"digits", std::int64_t{7}}});
+    DYXWindowController calculator(platform);
+    EXPECT_EQ(calculator.xDisplay().digits(), 7U);
+    calculator.takeToggleMemoryDrawerFrom();
+    calculator.revertDocumentToSaved();
+    EXPECT_EQ(calculator.drawers()[DrawerName::memory].record.state(), NSDrawerOpenState);
+    EXPECT_FALSE(calculator.layout().keyPadHidden);
+    // With one the status line comes and goes with the key pad.
+    calculator.saveDocument();
+    calculator.takeShowKeyPadFrom();
+    calculator.revertDocumentToSaved();
+    EXPECT_FALSE(calculator.views().keyPad.view()->statusField()->isHidden());
+}
+
 TEST_F(SavedFile, HasTwoSetsOfDefaults) {
     StateFile stateFile(home);
     EXPECT_FALSE(stateFile.read());

@@ -58,6 +58,7 @@ void DYXStatusLineTracker::install(const DYXStatusLines& lines) {
 void DYXStatusLineTracker::uninstall(const DYXStatusLines& lines) {
     for (const auto& line : lines) {
         line->view().removeTrackingRect(line->tag());
+        mouseExited(line.get());
     }
 }
 

@@ -57,7 +57,9 @@ class DYXStatusLineTracker : public NSTrackingOwner {
 
     // One rectangle for each record, however often it is asked for.
     void install(const DYXStatusLines& lines);
-    static void uninstall(const DYXStatusLines& lines);
+    // What is told about one of the records goes with its rectangle: nobody would hear of the
+    // pointer leaving it.
+    void uninstall(const DYXStatusLines& lines);
 
   private:
     std::shared_ptr<NSTextField> statusField_;

@@ -179,6 +179,7 @@ class DYXWindowController final : public DYXCalculator,
     void followLine();
     void setUnlocked(bool isUnlocked);
     void applyState(const SavedState& state);
+    void closeDrawersAtOnce();
     void openDrawers(const SavedState& state);
     void connectHelp();
     void showHelpPlace(const std::u16string& place);
@@ -186,6 +187,7 @@ class DYXWindowController final : public DYXCalculator,
     void storeHelpState(SavedState& state) const;
     void setShowStatusLine(bool show);
     void finishHidingKeyPad();
+    void hideKeyPadViews(bool hidden);
     void closeDrawersForKeyPad();
     void showStatusLines();
     void trackKeyPad();

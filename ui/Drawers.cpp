@@ -52,6 +52,12 @@ Drawer& Drawers::of(const NSDrawer& record) {
     return *drawer;
 }
 
+bool Drawers::areClosed() const {
+    return std::all_of(drawers_.begin(), drawers_.end(), [](const Drawer& drawer) {
+        return drawer.record.state() == NSDrawerClosedState;
+    });
+}
+
 NSSize slideDrawerToPositionsNearestTo(NSDrawer& drawer, const DrawerPositions& positions,
                                        const NSSize& size) {
     double NSSize::*const moved = drawer.isLevel() ? &NSSize::height : &NSSize::width;

@@ -38,8 +38,10 @@ class Drawers {
     [[nodiscard]] const Drawer& operator[](DrawerName name) const;
     [[nodiscard]] Drawer& of(const NSDrawer& record);
 
-    // How many drawers have yet to close before the key pad can go.
-    int openDrawerCount = 0;
+    [[nodiscard]] bool areClosed() const;
+
+    // Whether the key pad goes as soon as all drawers have closed.
+    bool keyPadWaits = false;
 
   private:
     std::array<Drawer, kDrawerNames.size()> drawers_;

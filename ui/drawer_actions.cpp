@@ -64,11 +64,8 @@ NSSize DYXWindowController::drawerWillResizeContentsToSize(NSDrawer& drawer, con
 
 // A drawer that was dragged shut is whole the next time.
 void DYXWindowController::drawerDidClose(NSDrawer& drawer) {
-    if (drawers_.openDrawerCount > 0) {
-        --drawers_.openDrawerCount;
-        if (drawers_.openDrawerCount == 0) {
-            finishHidingKeyPad();
-        }
+    if (drawers_.keyPadWaits && drawers_.areClosed()) {
+        finishHidingKeyPad();
     }
     const bool isLevel = drawer.preferredEdge() % 2 == 1;
     if ((isLevel ? drawer.contentSize().height : drawer.contentSize().width) == 0.0) {
@@ -85,16 +82,15 @@ void DYXWindowController::drawerStateDidChange(NSDrawer& drawer) {
 }
 
 void DYXWindowController::closeDrawersForKeyPad() {
-    drawers_.openDrawerCount = 0;
     for (const DrawerName name : kDrawerNames) {
         Drawer& drawer = drawers_[name];
         drawer.wasOpen = drawer.record.isOpenOrOpening();
-        drawers_.openDrawerCount += drawer.wasOpen ? 1 : 0;
     }
-    if (drawers_.openDrawerCount == 0) {
+    if (drawers_.areClosed()) {
         finishHidingKeyPad();
         return;
     }
+    drawers_.keyPadWaits = true;
     for (const DrawerName name : kDrawerNames) {
         drawers_[name].record.close();
     }

@@ -91,12 +91,10 @@ void DYXWindowController::applyState(const SavedState& state) {
         drawers_[saved.name].wasOpen = state.*saved.wasOpen;
     }
     applyHelpState(state);
-    if (state.keyPadHidden) {
-        for (const DrawerName name : kDrawerNames) {
-            drawers_[name].record.close();
-        }
-    }
     if (const auto& frame = state.calculatorFrame) {
+        if (state.keyPadHidden) {
+            closeDrawersAtOnce();
+        }
         setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(
             {frame->x, frame->y + frame->height}, state.keyPadHidden, state.displayViewMode,
             state.showStatusLine);
@@ -105,7 +103,17 @@ void DYXWindowController::applyState(const SavedState& state) {
     views_->conversionPanel.tabView->selectTabViewItemAtIndex(state.conversionTabSelection);
 }
 
+void DYXWindowController::closeDrawersAtOnce() {
+    for (const DrawerName name : kDrawerNames) {
+        drawers_[name].record.close();
+        drawers_[name].record.finishSliding();
+    }
+}
+
 void DYXWindowController::openDrawers(const SavedState& state) {
+    if (layout_.keyPadHidden) {
+        return;
+    }
     for (const SavedDrawer& saved : kSavedDrawers) {
         NSDrawer& drawer = drawers_[saved.name].record;
         const std::int32_t drawerState = state.*saved.state;

@@ -88,8 +88,8 @@ void DYXWindowController::takeShowKeyPadFrom() {
         closeDrawersForKeyPad();
         return;
     }
-    views_->keyPad.view()->setHidden(false);
-    views_->keyPad.view()->statusField()->setHidden(false);
+    drawers_.keyPadWaits = false;
+    hideKeyPadViews(false);
     resizeWindow();
     trackKeyPad();
     for (const DrawerName name : kDrawerNames) {
@@ -101,8 +101,14 @@ void DYXWindowController::takeShowKeyPadFrom() {
 }
 
 void DYXWindowController::finishHidingKeyPad() {
+    drawers_.keyPadWaits = false;
     resizeWindow();
-    views_->keyPad.view()->setHidden(layout_.keyPadHidden);
+    hideKeyPadViews(layout_.keyPadHidden);
+}
+
+void DYXWindowController::hideKeyPadViews(bool hidden) {
+    views_->keyPad.view()->setHidden(hidden);
+    views_->keyPad.view()->statusField()->setHidden(hidden);
 }
 
 void DYXWindowController::setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(
@@ -117,7 +123,6 @@ void DYXWindowController::setupWindowAtLocationKeyPadHiddenDisplayViewModeStatus
     }
     if (statusLine != layout_.showStatusLine) {
         setShowStatusLine(statusLine);
-        views_->keyPad.view()->statusField()->setHidden(layout_.keyPadHidden);
     }
 }
 
