@@ -70,6 +70,14 @@ bool isPrintable(char32_t character) {
     return character > U' ' && character != 0x7F && character <= kLastOfPlane0;
 }
 
+std::uint32_t flagsLackedBy(Qt::KeyboardModifiers modifiers) {
+    std::uint32_t flags = 0;
+    for (const auto& [state, flag] : kModifierStates) {
+        flags |= modifiers.testFlag(state) ? 0 : flag;
+    }
+    return flags;
+}
+
 // Events that a test makes have no keysym.
 std::optional<char16_t> characterWithoutKeysym(const QKeyEvent& event) {
     const QString text = event.text();
@@ -97,13 +105,16 @@ std::optional<char16_t> characterOfKey(const QKeyEvent& event) {
     return isPrintable(character) ? std::optional(static_cast<char16_t>(character)) : std::nullopt;
 }
 
+// The modifiers that come with a modifier key don't count for its own flag: while both keys of a
+// pair are held they are wrong.
 bool HeldModifiers::take(const QKeyEvent& event) {
     auto flag = find(kModifierKeysyms, event.nativeVirtualKey());
     flag = flag ? flag : find(kModifierKeys, event.key());
-    if (!flag || event.isAutoRepeat()) {
-        return false;
-    }
     const std::uint32_t before = flags();
+    drop(flagsLackedBy(event.modifiers()) & ~flag.value_or(0));
+    if (!flag || event.isAutoRepeat()) {
+        return flags() != before;
+    }
     const std::int64_t byFlag = -std::int64_t{*flag};
     const std::int64_t scanCode = event.nativeScanCode();
     if (event.type() == QEvent::KeyPress) {
@@ -113,6 +124,16 @@ bool HeldModifiers::take(const QKeyEvent& event) {
         held_.erase(byFlag);
     }
     return flags() != before;
+}
+
+bool HeldModifiers::keepOnly(Qt::KeyboardModifiers modifiers) {
+    const std::uint32_t before = flags();
+    drop(flagsLackedBy(modifiers));
+    return flags() != before;
+}
+
+void HeldModifiers::drop(std::uint32_t flags) {
+    std::erase_if(held_, [flags](const auto& key) { return (key.second & flags) != 0; });
 }
 
 bool HeldModifiers::clear() {

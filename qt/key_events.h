@@ -17,8 +17,12 @@ namespace talvex {
 // which is wrong while both keys of a pair are held.
 class HeldModifiers {
   public:
-    // Takes the press or release of a modifier key, and answers whether the flags changed.
+    // Takes the press or release of any key, which also says which modifier keys are up, and
+    // answers whether the flags changed.
     bool take(const QKeyEvent& event);
+    // Forgets keys whose release was never heard of: those of flags that these modifiers lack.
+    // Whether the flags changed.
+    bool keepOnly(Qt::KeyboardModifiers modifiers);
     // Forgets all keys, as when the window no longer hears of releases; whether any were held.
     bool clear();
     // Takes over the keys that are held when the window begins to hear of keys again; whether the
@@ -29,6 +33,8 @@ class HeldModifiers {
     [[nodiscard]] std::uint32_t flags() const;
 
   private:
+    void drop(std::uint32_t flags);
+
     std::map<std::int64_t, std::uint32_t> held_;  // flag by scan code, or by minus the flag
 };
 

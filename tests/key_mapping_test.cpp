@@ -28,8 +28,8 @@ QKeyEvent event(int key, std::uint32_t keysym, const QString& text = {},
 }
 
 QKeyEvent modifierEvent(QEvent::Type type, int key, std::uint32_t scanCode,
-                        std::uint32_t keysym = 0) {
-    return {type, key, {}, scanCode, keysym, 0, {}, false, 1, keyboard()};
+                        std::uint32_t keysym = 0, Qt::KeyboardModifiers modifiers = {}) {
+    return {type, key, modifiers, scanCode, keysym, 0, {}, false, 1, keyboard()};
 }
 
 TEST(KeyMapping, TellsTheCharacterWithoutControlAndAlt) {
@@ -96,7 +96,8 @@ TEST(HeldModifiers, CountBothKeysOfAPair) {
 TEST(HeldModifiers, TakeAltForAltWhileShiftIsHeld) {
     HeldModifiers held;
     held.take(modifierEvent(QEvent::KeyPress, Qt::Key_Shift, kLeftShift, XKB_KEY_Shift_L));
-    held.take(modifierEvent(QEvent::KeyPress, Qt::Key_Meta, kLeftAlt, XKB_KEY_Meta_L));
+    held.take(
+        modifierEvent(QEvent::KeyPress, Qt::Key_Meta, kLeftAlt, XKB_KEY_Meta_L, Qt::ShiftModifier));
     EXPECT_EQ(held.flags(), NSShiftKeyMask | NSAlternateKeyMask);
     held.take(modifierEvent(QEvent::KeyRelease, Qt::Key_Shift, kLeftShift, XKB_KEY_Shift_L));
     held.take(modifierEvent(QEvent::KeyRelease, Qt::Key_Alt, kLeftAlt, XKB_KEY_Alt_L));
@@ -115,6 +116,20 @@ TEST(HeldModifiers, ForgetAndTakeOverWithTheFocus) {
     EXPECT_TRUE(held.take(modifierEvent(QEvent::KeyRelease, Qt::Key_Control, 37)));
     EXPECT_EQ(held.flags(), 0U);
     EXPECT_FALSE(held.take(modifierEvent(QEvent::KeyPress, Qt::Key_S, 39)));
+}
+
+// A window manager keeps the release of a key of its own, as after Alt+Tab.
+TEST(HeldModifiers, EndWithAnyEventThatComesWithoutThem) {
+    HeldModifiers held;
+    held.adopt(Qt::AltModifier | Qt::ShiftModifier);
+    const auto key = [](Qt::KeyboardModifiers modifiers) {
+        return modifierEvent(QEvent::KeyPress, Qt::Key_1, 10, 0, modifiers);
+    };
+    EXPECT_TRUE(held.take(key(Qt::ShiftModifier)));
+    EXPECT_EQ(held.flags(), NSShiftKeyMask);
+    EXPECT_FALSE(held.take(key(Qt::ShiftModifier | Qt::KeypadModifier)));
+    EXPECT_TRUE(held.keepOnly({}));
+    EXPECT_EQ(held.flags(), 0U);
 }
 
 }  // namespace
