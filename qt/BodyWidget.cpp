@@ -21,11 +21,10 @@ QSize sizeOf(const NSRect& frame) {
 
 }  // namespace
 
-BodyWidget::BodyWidget(DYXWindowController& controller, std::function<void()> didResize,
-                       QWidget* parent)
+BodyWidget::BodyWidget(DYXWindowController& controller, Host host, QWidget* parent)
     : QWidget(parent),
       controller_(controller),
-      didResize_(std::move(didResize)),
+      host_(std::move(host)),
       titleBar_(new TitleBar(controller, this)),
       content_(new QWidget(this)),
       stillPicture_(new QLabel(this)) {
@@ -45,8 +44,15 @@ BodyWidget::BodyWidget(DYXWindowController& controller, std::function<void()> di
     motion_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&motion_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& size) { setBodySize(size.toSize()); });
-    connect(&motion_, &QVariantAnimation::finished, this, [this] { stillPicture_->hide(); });
+    connect(&motion_, &QVariantAnimation::finished, this, [this] {
+        stillPicture_->hide();
+        host_.didArrive();
+    });
     followRecord();
+}
+
+QRect BodyWidget::restingPlace() const {
+    return {pos(), sizeOf(controller_.views().window.frame())};
 }
 
 void BodyWidget::prepareMotion() {
@@ -59,9 +65,8 @@ void BodyWidget::followRecord() {
     const QSize size = sizeOf(controller_.views().window.frame());
     content_->resize(size - QSize(0, kBar));
     controller_.views().keyPad.view()->statusField()->setNeedsDisplay();
-    const bool isMoving = motion_.state() == QAbstractAnimation::Running;
     const QPixmap picture = std::exchange(picture_, {});
-    if (size == (isMoving ? motion_.endValue().toSize() : this->size())) {
+    if (size == (isMoving() ? motion_.endValue().toSize() : this->size())) {
         return;
     }
     motion_.stop();
@@ -71,6 +76,7 @@ void BodyWidget::followRecord() {
     if (picture.isNull()) {
         stillPicture_->hide();
         setBodySize(size);
+        host_.didArrive();
         return;
     }
     const bool shrinks = size.height() < height() || size.width() < width();
@@ -89,7 +95,7 @@ void BodyWidget::setBodySize(const QSize& size) {
     const int room = size.height() - kBar;
     content_->move(0, kBar + (movesWithLowerEdge_ ? room - content_->height() : 0));
     stillPicture_->move(0, kBar + (movesWithLowerEdge_ ? room - stillPicture_->height() : 0));
-    didResize_();
+    host_.didResize();
 }
 
 void BodyWidget::paintEvent(QPaintEvent* /*event*/) {

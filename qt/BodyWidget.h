@@ -14,8 +14,17 @@ namespace talvex {
 // of its size is a motion if it was announced as one.
 class BodyWidget final : public QWidget {
   public:
-    // `didResize` hears of every step of a motion.
-    BodyWidget(DYXWindowController& controller, std::function<void()> didResize, QWidget* parent);
+    // Who has to follow.
+    struct Host {
+        std::function<void()> didResize;  // at every step of a motion
+        std::function<void()> didArrive;  // the size is that of the record
+    };
+    BodyWidget(DYXWindowController& controller, Host host, QWidget* parent);
+
+    // Whether the size is still on its way to that of the record.
+    [[nodiscard]] bool isMoving() const { return motion_.state() == QAbstractAnimation::Running; }
+    // Its place once it has arrived.
+    [[nodiscard]] QRect restingPlace() const;
 
     // Takes a picture of the content as it is, which stands in for what goes.
     void prepareMotion();
@@ -29,7 +38,7 @@ class BodyWidget final : public QWidget {
     void setBodySize(const QSize& size);
 
     DYXWindowController& controller_;
-    std::function<void()> didResize_;
+    Host host_;
     QWidget* titleBar_;
     QWidget* content_;
     QLabel* stillPicture_;

@@ -2,7 +2,8 @@
 
 #include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QScreen>
+#include <QMouseEvent>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -20,10 +21,9 @@ namespace {
 
 constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
 
-QMargins marginsAround(const QRect& body, const QSize& canvas) {
-    return {body.left(), body.top(), canvas.width() - body.right() - 1,
-            canvas.height() - body.bottom() - 1};
-}
+// How often to look whether the keys were let go of that were down when the window got the
+// keyboard.
+constexpr int kAdoptedWatchMilliseconds = 50;
 
 // The room that the drawers need on each side of the body.
 QMargins roomFor(const Drawers& drawers) {
@@ -37,11 +37,13 @@ QMargins roomFor(const Drawers& drawers) {
             depth(DrawerName::functions)};
 }
 
-QSize largestBody() {
-    const NSRect frame = NSWindow::frameRectForContentRect(
-        contentFrame({.displayViewMode = 1, .showStatusLine = true}));
+QSize sizeOfBody(const WindowLayout& layout) {
+    const NSRect frame = NSWindow::frameRectForContentRect(contentFrame(layout));
     return {static_cast<int>(frame.width), static_cast<int>(frame.height)};
 }
+
+QSize largestBody() { return sizeOfBody({.displayViewMode = 1, .showStatusLine = true}); }
+QSize smallestBody() { return sizeOfBody({.keyPadHidden = true}); }
 
 }  // namespace
 
@@ -50,32 +52,50 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
       controller_(controller),
       drawerRoom_(roomFor(controller.drawers())),
       helpOn_(controller.localized(u"Help on")),
+      place_(*this, controller.views().window, [this] { return bodyRect(); }),
       focusWalk_(*this) {
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
     setWindowTitle(toQString(controller_.views().window.title()));
     setFixedSize(largestBody().grownBy(drawerRoom_));
     addShortcuts(*this, controller_.views().menu);
-    body_ = new BodyWidget(
-        controller_, [this] { showPieces(); }, this);
-    body_->move(drawerRoom_.left(), drawerRoom_.top());
+    makeBody();
     makeDrawers();
     body_->raise();
-    placeOnScreen();
+    controller_.hasSavedFrame() ? place_.takePlaceOfRecord() : place_.takeMiddle();
     controller_.views().window.setObserver(this);
     whenScreensChange(*this, [this] {
-        comeIntoSight();
-        tellPlace();
+        place_.comeIntoSight();
+        place_.tellRecord();
     });
     showPieces();
+    create();
+    publishMargins();
+    connect(windowHandle(), &QWindow::screenChanged, this, [this] { publishMargins(); });
+    windowHandle()->installEventFilter(this);
+    adoptedWatch_.setInterval(kAdoptedWatchMilliseconds);
+    connect(&adoptedWatch_, &QTimer::timeout, this,
+            [this] { keepModifiers(QGuiApplication::queryKeyboardModifiers()); });
 }
 
 CalculatorWindow::~CalculatorWindow() { controller_.views().window.setObserver(nullptr); }
 
+void CalculatorWindow::makeBody() {
+    body_ = new BodyWidget(
+        controller_,
+        {.didResize = [this] { showPieces(); }, .didArrive = [this] { openWaitingDrawers(); }},
+        this);
+    body_->move(drawerRoom_.left(), drawerRoom_.top());
+}
+
 void CalculatorWindow::makeDrawers() {
-    const DrawerWidget::Host host{.body = [this] { return bodyRect(); },
-                                  .didMove = [this] { showPieces(); },
-                                  .makeRoom = [this](const QRect& wanted) { makeRoomFor(wanted); }};
+    const DrawerWidget::Host host{
+        .body = [this] { return bodyRect(); },
+        .bodyAtRest = [this] { return body_->restingPlace(); },
+        .isBodyMoving = [this] { return body_->isMoving(); },
+        .didMove = [this] { showPieces(); },
+        .makeRoom = [this](const QRect& wanted) { place_.makeRoomFor(wanted); },
+        .didClose = [this] { giveBackRoom(); }};
     const auto make = [&](DrawerName name, std::function<QWidget*(QWidget*)> makeContent) {
         drawers_.at(static_cast<std::size_t>(name)) = new DrawerWidget(
             controller_.drawers()[name].record, std::move(makeContent), host, this);
@@ -105,15 +125,18 @@ void CalculatorWindow::windowWillAnimate(const NSWindow& /*window*/) { body_->pr
 
 void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
     body_->followRecord();
-    const QPoint place = placeOfCanvas();
-    if (isVisible() && place != pos() && wouldBeInSight(place)) {
-        move(place);
+    if (isVisible()) {
+        place_.followRecord();
     }
 }
 
+bool CalculatorWindow::isWhole() const {
+    return std::count(drawers_.begin(), drawers_.end(), nullptr) == 0;
+}
+
 void CalculatorWindow::showPieces() {
-    if (std::count(drawers_.begin(), drawers_.end(), nullptr) > 0) {
-        return;  // not all made yet
+    if (!isWhole()) {
+        return;
     }
     for (DrawerWidget* const drawer : drawers_) {
         drawer->followBody();
@@ -122,75 +145,32 @@ void CalculatorWindow::showPieces() {
     if (mask() != region) {
         setMask(region);
     }
-    if (isVisible()) {
-        publishMargins();
+}
+
+void CalculatorWindow::openWaitingDrawers() {
+    if (isWhole()) {
+        for (DrawerWidget* const drawer : drawers_) {
+            drawer->drawerDidChange(drawer->record());
+        }
     }
 }
 
+void CalculatorWindow::giveBackRoom() {
+    QRect wanted;
+    for (const DrawerWidget* const drawer : drawers_) {
+        wanted |= drawer->placeWhenOpen();
+    }
+    place_.giveBackRoomBut(wanted);
+}
+
+// Whatever the layout and whatever a window manager made of the size: one that hears of other
+// margins than before may take the difference off the window.
 void CalculatorWindow::publishMargins() {
-    const QMargins margins = marginsAround(bodyRect(), size());
-    if (margins != std::exchange(publishedMargins_, margins)) {
-        publishFrameExtents(*this, margins);
-    }
+    const QSize rest = largestBody() - smallestBody();
+    publishFrameExtents(*this, drawerRoom_ + QMargins(0, 0, rest.width(), rest.height()));
 }
 
-// A drawer that would open beyond the edge of the screen moves the window as far as it needs, but
-// never the title bar out of sight.
-void CalculatorWindow::makeRoomFor(const QRect& wanted) {
-    if (!isVisible()) {
-        return;
-    }
-    const QRect all = (wanted | bodyRect()).translated(pos());
-    const QRect visible = screen()->availableGeometry();
-    QPoint step(std::min(0, visible.right() - all.right()),
-                std::min(0, visible.bottom() - all.bottom()));
-    step.rx() += std::max(0, visible.left() - all.left() - step.x());
-    step.ry() += std::max(0, visible.top() - all.top() - step.y());
-    if (!step.isNull()) {
-        move(pos() + step);
-    }
-}
-
-void CalculatorWindow::placeOnScreen() {
-    if (controller_.hasSavedFrame()) {
-        move(placeOfCanvas());
-        comeIntoSight();
-    } else {
-        moveToMiddle();
-    }
-}
-
-// A place that is on no screen, or not any more, gives way to the middle of one.
-void CalculatorWindow::comeIntoSight() {
-    if (!wouldBeInSight(pos())) {
-        moveToMiddle();
-    }
-}
-
-void CalculatorWindow::moveToMiddle() {
-    const QRect visible = QGuiApplication::primaryScreen()->availableGeometry();
-    move(visible.center() - bodyRect().center());
-}
-
-// Where the canvas would be for the body to be at the record's place.
-QPoint CalculatorWindow::placeOfCanvas() const {
-    return onScreen(controller_.views().window.frame()).topLeft() - bodyRect().topLeft();
-}
-
-bool CalculatorWindow::wouldBeInSight(const QPoint& placeOfCanvas) const {
-    return isInSight({placeOfCanvas + bodyRect().topLeft(), QSize(bodyRect().width(), kBar)});
-}
-
-void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) { tellPlace(); }
-
-// The record counts from the bottom of the first screen, which may change, too.
-void CalculatorWindow::tellPlace() {
-    NSWindow& record = controller_.views().window;
-    const QPoint corner = pos() + bodyRect().topLeft();
-    if (onScreen(record.frame()).topLeft() != corner) {
-        record.setFrame(placeOfRecord({corner, onScreen(record.frame()).size()}));
-    }
-}
+void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) { place_.tellRecord(); }
 
 // Over a key the menu begins with the help on that key.
 void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
@@ -214,8 +194,9 @@ void CalculatorWindow::closeEvent(QCloseEvent* event) {
 
 void CalculatorWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    publishedMargins_ = {};
-    publishMargins();
+    if (!event->spontaneous()) {
+        place_.insistOnceMapped();
+    }
     activateWindow();
 }
 
@@ -251,15 +232,37 @@ void CalculatorWindow::keyReleaseEvent(QKeyEvent* event) {
     event->ignore();
 }
 
-// A window without the keyboard hears of no release, so that no modifier may outlive that; and one
-// that gets the keyboard takes over what is held.
+// A window without the keyboard hears of no release, so that no modifier may outlive that. One that
+// gets the keyboard takes over what is held, and watches it: the release may go to the window
+// manager, whose key it was.
 void CalculatorWindow::adoptModifiers() {
     if (heldModifiers_.adopt(QGuiApplication::queryKeyboardModifiers())) {
         sendFlags();
     }
+    if (heldModifiers_.flags() != 0) {
+        adoptedWatch_.start();
+    }
+}
+
+void CalculatorWindow::keepModifiers(Qt::KeyboardModifiers modifiers) {
+    if (heldModifiers_.keepOnly(modifiers)) {
+        sendFlags();
+    }
+    if (heldModifiers_.flags() == 0) {
+        adoptedWatch_.stop();
+    }
+}
+
+// A click says which modifier keys are down, as a key does.
+bool CalculatorWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == windowHandle() && event->type() == QEvent::MouseButtonPress) {
+        keepModifiers(static_cast<QMouseEvent*>(event)->modifiers());
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void CalculatorWindow::dropModifiers() {
+    adoptedWatch_.stop();
     if (heldModifiers_.clear()) {
         sendFlags();
     }

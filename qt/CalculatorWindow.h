@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <array>
 
 #include "platform/NSWindow.h"
 #include "qt/FocusWalk.h"
+#include "qt/WindowPlace.h"
 #include "qt/key_events.h"
 #include "ui/DYXWindowController.h"
 
@@ -39,20 +41,18 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     bool focusNextPrevChild(bool next) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void makeBody();
     void makeDrawers();
+    [[nodiscard]] bool isWhole() const;  // all drawers are made
     // The body or a drawer is somewhere else.
     void showPieces();
-    void makeRoomFor(const QRect& wanted);
-    void placeOnScreen();
-    void comeIntoSight();
-    void tellPlace();
-    void moveToMiddle();
-    // Where the canvas has to stand for the body to be where the record says.
-    [[nodiscard]] QPoint placeOfCanvas() const;
-    [[nodiscard]] bool wouldBeInSight(const QPoint& placeOfCanvas) const;
+    void openWaitingDrawers();
+    void giveBackRoom();
     void adoptModifiers();
+    void keepModifiers(Qt::KeyboardModifiers modifiers);
     void dropModifiers();
     void sendFlags();
     void publishMargins();
@@ -62,8 +62,9 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     BodyWidget* body_ = nullptr;
     std::array<DrawerWidget*, kDrawerNames.size()> drawers_{};
     std::u16string helpOn_;
-    QMargins publishedMargins_;
+    WindowPlace place_;
     HeldModifiers heldModifiers_;
+    QTimer adoptedWatch_;
     FocusWalk focusWalk_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -28,7 +29,8 @@ DrawerWidget::DrawerWidget(NSDrawer& record, std::function<QWidget*(QWidget*)> m
     : QWidget(canvas),
       record_(record),
       makeContent_(std::move(makeContent)),
-      host_(std::move(host)) {
+      host_(std::move(host)),
+      stillPicture_(new QLabel(this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setCursor(record_.isLevel() ? Qt::SplitVCursor : Qt::SplitHCursor);
     FocusWalk::markArea(*this);
@@ -36,7 +38,11 @@ DrawerWidget::DrawerWidget(NSDrawer& record, std::function<QWidget*(QWidget*)> m
     slide_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&slide_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& depth) { show(depth.toDouble()); });
-    connect(&slide_, &QVariantAnimation::finished, this, [this] { record_.finishSliding(); });
+    connect(&slide_, &QVariantAnimation::finished, this, [this] {
+        stillPicture_->hide();
+        record_.finishSliding();
+    });
+    stillPicture_->hide();
     record_.setObserver(this);
     if (record_.isOpenOrOpening()) {
         makeContentOnce();
@@ -65,22 +71,37 @@ void DrawerWidget::drawerDidChange(const NSDrawer& /*drawer*/) {
     if (!record_.isOpenOrOpening()) {
         drag_.reset();
     }
-    if (record_.state() == NSDrawerOpeningState && depth_ == 0.0) {
-        makeContentOnce();
-        place();
-        host_.makeRoom(rectAt(fullDepth()));
+    if (record_.state() == NSDrawerClosedState) {
+        standAt(0.0);
+        host_.didClose();
+        return;
+    }
+    const bool isShut = depth_ == 0.0 && slide_.state() != QAbstractAnimation::Running;
+    if (record_.state() == NSDrawerOpeningState && isShut) {
+        open();
+        return;
     }
     const double target = record_.isOpenOrOpening() ? fullDepth() : 0.0;
-    if (record_.state() == NSDrawerClosedState || depth_ == target) {
-        place();
-    } else if (drag_) {
-        show(target);
-    } else {
+    if (drag_) {
+        standAt(target);
+    } else if (depth_ != target) {
         slideTo(target);
-    }
-    if (depth_ == target && slide_.state() != QAbstractAnimation::Running) {
+        place();
+    } else {
+        standAt(target);
         record_.finishSliding();
     }
+}
+
+// A body that is on its way comes back to this at the end of it.
+void DrawerWidget::open() {
+    if (host_.isBodyMoving()) {
+        return;
+    }
+    makeContentOnce();
+    place();
+    host_.makeRoom(placeWhenOpen());
+    slideTo(fullDepth());
 }
 
 void DrawerWidget::slideTo(double depth) {
@@ -94,20 +115,27 @@ void DrawerWidget::slideTo(double depth) {
     slide_.start();
 }
 
+void DrawerWidget::standAt(double depth) {
+    slide_.stop();
+    stillPicture_->hide();
+    show(depth);
+}
+
 void DrawerWidget::show(double depth) {
     depth_ = depth;
     setVisible(depth > 0.0);
     place();
 }
 
-QRect DrawerWidget::rectAt(double depth) const {
-    const QRect body = host_.body();
+// A drawer that slides to less than it showed stays with the body. One at a side keeps its height
+// while the body is on its way to another one.
+QRect DrawerWidget::rectAt(double depth, const QRect& body) const {
     const int leading = whole(record_.leadingOffset());
     const int trailing = whole(record_.trailingOffset());
-    const int full = whole(fullDepth());
     const int shown = whole(depth);
+    const int full = std::max(whole(fullDepth()), shown);
     const int width = record_.isLevel() ? body.width() - leading - trailing : full;
-    const int height = record_.isLevel() ? full : body.height() - leading - trailing;
+    const int height = record_.isLevel() ? full : host_.bodyAtRest().height() - leading - trailing;
     switch (record_.edge()) {
         case NSMinXEdge:
             return {body.left() - shown, body.top() + leading, width, height};
@@ -119,6 +147,10 @@ QRect DrawerWidget::rectAt(double depth) const {
             break;
     }
     return {body.left() + leading, body.top() - shown, width, height};
+}
+
+QRect DrawerWidget::placeWhenOpen() const {
+    return record_.isOpenOrOpening() ? rectAt(fullDepth(), host_.bodyAtRest()) : QRect();
 }
 
 QRect DrawerWidget::visibleRect() const {
@@ -135,20 +167,35 @@ void DrawerWidget::place() {
     host_.didMove();
 }
 
-// The content lies between the border and the body.
-void DrawerWidget::followBody() {
-    setGeometry(rectAt(depth_));
-    if (content_ != nullptr) {
-        const NSRectEdge edge = record_.edge();
-        const QPoint corner(record_.isLevel()    ? kLeadingEnd
-                            : edge == NSMinXEdge ? kBorder
-                                                 : 0,
-                            !record_.isLevel()   ? kLeadingEnd
-                            : edge == NSMaxYEdge ? kBorder
-                                                 : 0);
-        content_->setGeometry(QRect(corner, QSize(whole(record_.contentSize().width),
-                                                  whole(record_.contentSize().height))));
+QRect DrawerWidget::contentRect(const QSize& size) const {
+    switch (record_.edge()) {
+        case NSMinXEdge:
+            return {QPoint(kBorder, kLeadingEnd), size};
+        case NSMaxXEdge:
+            return {QPoint(width() - kBorder - size.width(), kLeadingEnd), size};
+        case NSMinYEdge:
+            return {QPoint(kLeadingEnd, height() - kBorder - size.height()), size};
+        case NSMaxYEdge:
+            break;
     }
+    return {QPoint(kLeadingEnd, kBorder), size};
+}
+
+void DrawerWidget::followBody() {
+    setGeometry(rectAt(depth_, host_.body()));
+    if (content_ != nullptr) {
+        content_->setGeometry(
+            contentRect({whole(record_.contentSize().width), whole(record_.contentSize().height)}));
+    }
+    if (stillPicture_->isVisible()) {
+        stillPicture_->setGeometry(contentRect(stillPicture_->size()));
+    }
+}
+
+void DrawerWidget::keepPicture() {
+    const QPixmap picture = content_->grab();
+    stillPicture_->setPixmap(picture);
+    stillPicture_->resize(picture.deviceIndependentSize().toSize());
 }
 
 QRect DrawerWidget::grip() const {
@@ -201,10 +248,17 @@ void DrawerWidget::mouseMoveEvent(QMouseEvent* event) {
 
 // Asked twice with one size and the mouse up, the delegate lets the drawer come to rest.
 void DrawerWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (drag_ && event->button() == Qt::LeftButton) {
-        drag_.reset();
-        record_.dragContentsToSize(record_.contentSize());
-        record_.dragContentsToSize(record_.contentSize());
+    if (!drag_ || event->button() != Qt::LeftButton) {
+        return;
+    }
+    drag_.reset();
+    keepPicture();
+    record_.dragContentsToSize(record_.contentSize());
+    record_.dragContentsToSize(record_.contentSize());
+    if (fullDepth() < depth_) {
+        stillPicture_->raise();
+        stillPicture_->show();
+        followBody();
     }
 }
 

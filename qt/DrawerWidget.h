@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QVariantAnimation>
 #include <QWidget>
 #include <functional>
@@ -16,8 +17,11 @@ class DrawerWidget final : public QWidget, public NSDrawerObserver {
     // What a drawer needs of the window that it is in.
     struct Host {
         std::function<QRect()> body;                        // its place in the canvas
+        std::function<QRect()> bodyAtRest;                  // the same at the end of its motion
+        std::function<bool()> isBodyMoving;                 // no drawer opens meanwhile
         std::function<void()> didMove;                      // what is on show has changed
         std::function<void(const QRect& wanted)> makeRoom;  // brings a place onto the screen
+        std::function<void()> didClose;
     };
     // `makeContent` runs when the drawer is first opened.
     DrawerWidget(NSDrawer& record, std::function<QWidget*(QWidget*)> makeContent, Host host,
@@ -29,6 +33,8 @@ class DrawerWidget final : public QWidget, public NSDrawerObserver {
     [[nodiscard]] const NSDrawer& record() const { return record_; }
     // What can be seen of the drawer, in the canvas; empty while it is closed.
     [[nodiscard]] QRect visibleRect() const;
+    // Where it is, or will be when it has opened; empty if it is to be closed.
+    [[nodiscard]] QRect placeWhenOpen() const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -37,20 +43,27 @@ class DrawerWidget final : public QWidget, public NSDrawerObserver {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    // The place of the drawer if so much of it showed.
-    [[nodiscard]] QRect rectAt(double depth) const;
+    // The place of the drawer if so much of it showed beside the body.
+    [[nodiscard]] QRect rectAt(double depth, const QRect& body) const;
+    // Where something of the content's size lies in the drawer: at its outer edge.
+    [[nodiscard]] QRect contentRect(const QSize& size) const;
     // How much shows of the drawer as it is drawn out.
     [[nodiscard]] double fullDepth() const;
     [[nodiscard]] QRect grip() const;
+    void open();
     void slideTo(double depth);
+    // Ends a slide.
+    void standAt(double depth);
     void show(double depth);
     void place();
     void makeContentOnce();
+    void keepPicture();
 
     NSDrawer& record_;
     std::function<QWidget*(QWidget*)> makeContent_;
     Host host_;
     QWidget* content_ = nullptr;
+    QLabel* stillPicture_;  // of the content as it was, while the drawer slides to less of it
     double depth_ = 0.0;
     QVariantAnimation slide_;
     struct Drag {

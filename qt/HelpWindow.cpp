@@ -156,7 +156,8 @@ void HelpWidget::addShortcuts() {
 
 void HelpWidget::followRecord() {
     const NSWindow& record = controller_.views().help.window;
-    if (record.isVisible() && !isVisible()) {
+    const bool isElsewhere = onScreen(record.frame()) != geometry().adjusted(0, -kBar, 0, 0);
+    if (record.isVisible() && (!isVisible() || isElsewhere)) {
         setGeometry(contentOnScreen(record.frame()));
     }
     setVisible(record.isVisible());

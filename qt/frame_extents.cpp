@@ -3,7 +3,9 @@
 #include <xcb/xcb.h>
 
 #include <QGuiApplication>
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -28,7 +30,9 @@ void publishFrameExtents(const QWidget& window, const QMargins& margins) {
         return;
     }
     const double scale = window.devicePixelRatioF();
-    const auto pixels = [scale](int points) { return static_cast<std::uint32_t>(points * scale); };
+    const auto pixels = [scale](int points) {
+        return static_cast<std::uint32_t>(std::lround(std::max(0, points) * scale));
+    };
     const std::array extents{pixels(margins.left()), pixels(margins.right()), pixels(margins.top()),
                              pixels(margins.bottom())};
     constexpr std::uint8_t kBitsOfCardinal = 32;

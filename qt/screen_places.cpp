@@ -38,6 +38,19 @@ bool isInSight(const QRect& titleBar) {
     });
 }
 
+QRect availableAround(const QRect& window) {
+    const auto seenOn = [&window](const QScreen* screen) {
+        const QRect seen = screen->geometry().intersected(window);
+        return seen.isEmpty() ? 0 : seen.width() * seen.height();
+    };
+    const QScreen* best = QGuiApplication::primaryScreen();
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* const screen : screens) {
+        best = seenOn(screen) > seenOn(best) ? screen : best;
+    }
+    return best->availableGeometry();
+}
+
 // Queued, so that the desktop has put its windows where it wants them.
 void whenScreensChange(QObject& context, const std::function<void()>& action) {
     const auto watch = [&context, action](const QScreen* screen) {

@@ -17,6 +17,9 @@ namespace talvex {
 // Whether enough of a window's title bar is in sight to take hold of it.
 [[nodiscard]] bool isInSight(const QRect& titleBar);
 
+// What can be used of the screen that shows most of a window, or else of the first one.
+[[nodiscard]] QRect availableAround(const QRect& window);
+
 // Runs the action whenever a screen came, went or changed, for as long as the context lives.
 void whenScreensChange(QObject& context, const std::function<void()>& action);
 
