@@ -194,18 +194,6 @@ TEST_F(WindowGeometry, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
 }
 
-TEST_F(WindowGeometry, KeepsTheKeyPadThatIsShownAgainWhileDrawersClose) {
-    const SlowDrawer memory(drawer(DrawerName::memory));
-    controller.takeToggleMemoryDrawerFrom();
-    controller.takeToggleConstantsDrawerFrom();
-    controller.takeShowKeyPadFrom();
-    controller.takeShowKeyPadFrom();
-    drawer(DrawerName::memory).finishSliding();
-    controller.takeToggleConstantsDrawerFrom();
-    EXPECT_EQ(contentSize(), (NSSize{404, 211}));
-    EXPECT_FALSE(controller.views().keyPad.view()->isHidden());
-}
-
 struct Rest {
     DrawerName name;
     double dragged, target;
