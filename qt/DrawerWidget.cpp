@@ -193,7 +193,7 @@ void DrawerWidget::followBody() {
 }
 
 void DrawerWidget::keepPicture() {
-    const QPixmap picture = content_->grab();
+    const QPixmap picture = grab(content_->geometry());
     stillPicture_->setPixmap(picture);
     stillPicture_->resize(picture.deviceIndependentSize().toSize());
 }
