@@ -102,6 +102,9 @@ bool WindowPlace::wouldBeInSight(const QPoint& place) const {
 
 QPoint WindowPlace::roomFor(const QRect& wanted, const QPoint& home) const {
     const QRect all = (wanted | body_()).translated(home);
+    if (isAllInSight(all)) {
+        return home;
+    }
     const QRect visible = availableAround(body_().translated(home));
     QPoint step(std::min(0, visible.right() - all.right()),
                 std::min(0, visible.bottom() - all.bottom()));

@@ -42,7 +42,8 @@ class WindowPlace {
     // Where the top level has to be for the body to be at the record's place.
     [[nodiscard]] QPoint placeOfRecord() const;
     [[nodiscard]] bool wouldBeInSight(const QPoint& place) const;
-    // The place nearest to `home` at which all of `wanted` is on the screen.
+    // `home` if all of `wanted` can be seen there, or else the nearest place at which it is on the
+    // screen that has most of the body.
     [[nodiscard]] QPoint roomFor(const QRect& wanted, const QPoint& home) const;
     void moveTo(const QPoint& place);
 

@@ -1,6 +1,7 @@
 #include "qt/screen_places.h"
 
 #include <QGuiApplication>
+#include <QRegion>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
@@ -36,6 +37,15 @@ bool isInSight(const QRect& titleBar) {
         const QRect seen = screen->availableGeometry().intersected(titleBar);
         return seen.width() >= kInSight && seen.height() == titleBar.height();
     });
+}
+
+bool isAllInSight(const QRect& rect) {
+    QRegion hidden(rect);
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* const screen : screens) {
+        hidden -= screen->availableGeometry();
+    }
+    return hidden.isEmpty();
 }
 
 QRect availableAround(const QRect& window) {

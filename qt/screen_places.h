@@ -17,6 +17,9 @@ namespace talvex {
 // Whether enough of a window's title bar is in sight to take hold of it.
 [[nodiscard]] bool isInSight(const QRect& titleBar);
 
+// Whether all of it can be seen, be it on several screens.
+[[nodiscard]] bool isAllInSight(const QRect& rect);
+
 // What can be used of the screen that shows most of a window, or else of the first one.
 [[nodiscard]] QRect availableAround(const QRect& window);
 
