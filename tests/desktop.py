@@ -68,7 +68,24 @@ def running(command, **options):
         yield process
     finally:
         process.terminate()
-        process.wait()
+        try:
+            process.wait(10)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.wait()
+
+
+@contextlib.contextmanager
+def virtual_screen(size, name=None):
+    """An X server with the display of that name or a free one; DISPLAY leads to it."""
+    reader, writer = os.pipe()
+    server = ["Xvfb", *([name] if name else []), "-displayfd", str(writer), "-screen", "0", size,
+              "-nolisten", "tcp", "-noreset"]
+    with running(server, pass_fds=[writer], stderr=subprocess.DEVNULL):
+        os.close(writer)
+        with os.fdopen(reader) as numbers:
+            os.environ["DISPLAY"] = ":" + numbers.readline().strip()
+        yield
 
 
 def has_window_manager():
@@ -77,23 +94,22 @@ def has_window_manager():
     return b"window id" in answer.stdout
 
 
+def state_file(home):
+    return pathlib.Path(home, "Library/Preferences/com.Quondel.TalvexV1.2.data.plist")
+
+
+def save_state(home, state):
+    state_file(home).parent.mkdir(parents=True, exist_ok=True)
+    state_file(home).write_bytes(plistlib.dumps(state))
+
+
 @contextlib.contextmanager
 def desktop(size="1280x1024x24"):
     """An X server with a window manager; DISPLAY leads to it. HOME is a folder with a saved state
     that says no more than that the help was closed and digits are copied without groups."""
-    reader, writer = os.pipe()
-    server = ["Xvfb", "-displayfd", str(writer), "-screen", "0", size, "-nolisten", "tcp", "-noreset"]
-    with tempfile.TemporaryDirectory() as home, \
-            running(server, pass_fds=[writer], stderr=subprocess.DEVNULL):
+    with tempfile.TemporaryDirectory() as home, virtual_screen(size):
         os.environ["HOME"] = home
-        preferences = pathlib.Path(home, "Library/Preferences")
-        preferences.mkdir(parents=True)
-        state = {"helpPanelVisible": False, "includeDigitGroupingWhenCopying": False}
-        with open(preferences / "com.Quondel.TalvexV1.2.data.plist", "wb") as file:
-            plistlib.dump(state, file)
-        os.close(writer)
-        with os.fdopen(reader) as numbers:
-            os.environ["DISPLAY"] = ":" + numbers.readline().strip()
+        save_state(home, {"helpPanelVisible": False, "includeDigitGroupingWhenCopying": False})
         with running(["openbox"], stderr=subprocess.DEVNULL):
             wait_until(has_window_manager, "the window manager")
             yield Screen(os.environ["DISPLAY"])

@@ -1,0 +1,193 @@
+"""What the program has to do under every window manager. Each check runs the program anew and
+answers with its faults, none if all is well."""
+import struct
+import subprocess
+import time
+
+from calculator_window import TITLE_BAR, WHOLE_BODY, Calculator, Rect, rest_of
+from desktop import running, wait_until, xdotool
+from window_manager_table import SECOND_WINDOW
+
+SUM = ("1", "2", "Return", "3", "plus")
+KEEPS_SIZE = 20  # changes of layout
+ROUNDS_OF_SWITCHING = 3  # each leaves its sum in the stack
+RESTARTS = 3
+SHADE = 70  # nothing of the window is seen so far from the body
+
+
+def number(state, key):
+    return struct.unpack(">d", state[key])[0]
+
+
+def middle(area):
+    return (area.x + (area.width - WHOLE_BODY[0]) // 2, area.y + (area.height - WHOLE_BODY[1]) // 2)
+
+
+def places(area):
+    right, bottom = area.x + area.width - WHOLE_BODY[0], area.y + area.height - WHOLE_BODY[1]
+    return {"middle": middle(area), "top left": (area.x, area.y), "top right": (right, area.y),
+            "bottom left": (area.x, bottom), "bottom right": (right, bottom)}
+
+
+def way(place, from_place):
+    return place[0] - from_place[0], place[1] - from_place[1]
+
+
+def is_near(step):
+    return max(map(abs, step)) <= 1
+
+
+def happens(question, seconds=3.0):
+    try:
+        return wait_until(question, "it", seconds)
+    except AssertionError:
+        return False
+
+
+def check_start(desk):
+    area = desk.free_area()
+    saved = (area.x + 150, area.y + 120)
+    bottom_of_screen = desk.root.get_geometry().height
+    frame = (saved[0], bottom_of_screen - saved[1] - WHOLE_BODY[1], *WHOLE_BODY)
+    faults = []
+    for name, place, state in (
+            ("middle", middle(area), {}),
+            ("saved place", saved, {"calculatorFrame": struct.pack(">4f", *frame)})):
+        points = [(place[0] - SHADE, place[1] + SHADE), (place[0] + SHADE, place[1] - SHADE)]
+        before = rest_of(lambda: desk.pixels(points))
+        with Calculator(desk, state) as calculator:
+            if not happens(calculator.has_keyboard):
+                faults.append(f"{name}: no keyboard")
+            step = way(calculator.place(), place)
+            if not is_near(step):
+                faults.append(f"{name}: {step}")
+            elif desk.pixels(points) != before:
+                faults.append(f"{name}: shade {SHADE} px beside it")
+    return faults
+
+
+def check_keys(desk):
+    with Calculator(desk) as calculator:
+        happens(calculator.has_keyboard)
+        xdotool("key", *SUM)
+        shown = number(calculator.end(), "reg[0]")
+    return [] if shown == 15 else [f"X is {shown}"]
+
+
+def size_of(layout):
+    rows = 60 if layout["four lines"] else 0
+    if layout["key pad"]:
+        return 274, TITLE_BAR + 45 + rows
+    return 404, TITLE_BAR + 211 + rows + (17 if layout["status line"] else 0)
+
+
+def layout_button(name, width):
+    return {"status line": (width - 37, 11), "four lines": (width - 18, 11), "key pad": (53, 11)}[name]
+
+
+def check_layouts(desk):
+    layout = {"status line": False, "four lines": False, "key pad": False}  # "key pad": without it
+    with Calculator(desk) as calculator:
+        corner, canvas = calculator.place(), calculator.size_of_window()
+        is_canvas = canvas != WHOLE_BODY
+        for step in range(KEEPS_SIZE):
+            name = list(layout)[step % 3]
+            calculator.click(*layout_button(name, size_of(layout)[0]))
+            layout[name] = not layout[name]
+            wanted = Rect(*corner, *size_of(layout))
+            happens(lambda: calculator.seen() == wanted, 1.5)
+            seen = rest_of(calculator.seen, 0.15)
+            window = calculator.size_of_window()
+            if seen != wanted:
+                return [f"change {step + 1}, {name}: {seen}, not {wanted}"]
+            if window != (canvas if is_canvas else wanted[2:]):
+                return [f"change {step + 1}, {name}: the window is {window[0]}x{window[1]}"]
+        state = calculator.end()
+    kept = {"status line": state["showStatusLine"], "four lines": state["displayViewMode"] == 1,
+            "key pad": state["keyPadHidden"]}
+    return [] if kept == layout else [f"saved as {kept}"]
+
+
+def switch(desk, window, holds):
+    """Presses the window manager's own keys; `holds` lets go when the other window has the focus."""
+    held, chooses = desk.switch
+    xdotool("keydown", held, "key", chooses)
+    if holds:
+        happens(lambda: desk.has_keyboard(window), 0.5)
+    xdotool("keyup", held)
+    return happens(lambda: desk.has_keyboard(window))
+
+
+# How long the other window has the keyboard, and whether the key is held until the focus has come. A
+# toolkit may wait half a second before it believes that the focus has gone.
+SWITCHING = {"at once": (0.0, False), "after a rest": (0.7, False), "held": (0.7, True)}
+
+
+def check_switching(desk):
+    faults = []
+    for name, (rest, holds) in SWITCHING.items():
+        with Calculator(desk) as calculator, running(["xev", "-geometry", "200x150+30+40"],
+                                                    stdout=subprocess.DEVNULL):
+            other = wait_until(lambda: desk.window(SECOND_WINDOW), "the second window")
+            happens(lambda: desk.has_keyboard(other), 1.0)
+            xdotool("windowactivate", calculator.window.id)
+            happens(calculator.has_keyboard)
+            time.sleep(rest)
+            for _ in range(ROUNDS_OF_SWITCHING):
+                if not switch(desk, other, holds):
+                    faults.append(f"{name}: the focus stays")
+                time.sleep(rest)
+                if not switch(desk, calculator.window, holds):
+                    faults.append(f"{name}: the focus doesn't come back")
+                xdotool("key", *SUM)
+            state = calculator.end()
+        stack = [number(state, f"reg[{index}]") for index in range(ROUNDS_OF_SWITCHING)]
+        stored = [index for index in range(21) if number(state, f"mem[{index}]") != 0]
+        faults += [f"{name}: the stack is {stack}"] if set(stack) != {15} else []
+        faults += [f"{name}: registers {stored} were stored"] if stored else []
+    return faults
+
+
+def check_restarts(desk):
+    faults = []
+    with Calculator(desk) as calculator:
+        for name, place in places(desk.free_area()).items():
+            left = calculator.move(*place)
+            if not is_near(way(left, place)):
+                faults.append(f"{name}: not nearer than {way(left, place)}")
+            for _ in range(RESTARTS):
+                calculator.end()
+                calculator.start()
+                happens(lambda: calculator.corner() == left, 1.0)
+                calculator.place()
+            step = way(calculator.place(), left)
+            if not is_near(step):
+                faults.append(f"{name}: {step}")
+    return faults
+
+
+DRAWER_KEYS = {"constants": 55, "units": 153, "functions": 251, "memory": 349}  # from the left
+
+
+def check_drawers(desk):
+    """Opens and closes each drawer, and then all together; where the screen has no room the window
+    may make some, but has to come back."""
+    clicks = [name for name in DRAWER_KEYS for _ in range(2)] + [*DRAWER_KEYS, *DRAWER_KEYS]
+    faults = []
+    for where in ("middle", "top left", "bottom right"):
+        with Calculator(desk) as calculator:
+            corner = calculator.move(*places(desk.free_area())[where])
+            are_open = set()
+            for name in clicks:
+                seen = calculator.seen()
+                calculator.click(DRAWER_KEYS[name], WHOLE_BODY[1] - 11)
+                are_open ^= {name}
+                if not happens(lambda: calculator.seen()[2:] != seen[2:]):
+                    faults.append(f"{where}: {name} doesn't move")
+                    break
+                rest_of(calculator.seen, 0.25)
+                step = way(calculator.corner() or (0, 0), corner)
+                if not is_near(step) and (where == "middle" or not are_open):
+                    faults.append(f"{where}: {step} after {name}")
+                    break
+    return faults
