@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <random>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Platform.h"
@@ -17,8 +19,20 @@ class HeadlessPlatform final : public Platform {
     std::uint32_t arc4random() override { return static_cast<std::uint32_t>(random()); }
     [[nodiscard]] NSNumberFormat numberFormat() const override { return format; }
 
-    [[nodiscard]] std::optional<std::u16string> pasteboardString() const override {
-        return pasteboard;
+    void requestPasteboardString(PasteboardAnswer answer) override {
+        pasteboardAnswer = std::move(answer);
+        if (pasteboardAnswersAtOnce) {
+            answerPasteboardRequest(
+                {.outcome = pasteboard ? PasteboardOutcome::text : PasteboardOutcome::none,
+                 .text = pasteboard.value_or(u"")});
+        }
+    }
+    void dropPasteboardRequest() override { pasteboardAnswer = nullptr; }
+    // To whoever waits for it.
+    void answerPasteboardRequest(const PasteboardText& text) {
+        if (const auto answer = std::exchange(pasteboardAnswer, nullptr)) {
+            answer(text);
+        }
     }
     void setPasteboardString(const std::u16string& text) override { pasteboard = text; }
     [[nodiscard]] std::string NSHomeDirectory() const override { return home; }
@@ -37,6 +51,8 @@ class HeadlessPlatform final : public Platform {
     std::mt19937 random;  // always the same numbers, so that a test can be run again
     NSNumberFormat format;
     std::optional<std::u16string> pasteboard;
+    bool pasteboardAnswersAtOnce = true;
+    PasteboardAnswer pasteboardAnswer;
     std::string home;  // none, unless a test gives one
     std::vector<NSRect> screens{{.width = 1920.0, .height = 1080.0}};
     std::uint32_t mouseButtons = 0;

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,10 +51,29 @@ class LocalePort {
     ~LocalePort() = default;
 };
 
+// How a request for the text on the pasteboard ended.
+enum class PasteboardOutcome {
+    text,
+    none,  // there is no text
+    late,  // whoever has the text doesn't hand it over in time
+};
+
+struct PasteboardText {
+    PasteboardOutcome outcome = PasteboardOutcome::none;
+    std::u16string text;
+};
+
 class PasteboardPort {
   public:
-    // The text on the general pasteboard, if there is text.
-    [[nodiscard]] virtual std::optional<std::u16string> pasteboardString() const = 0;
+    // No more of a text is asked for, in bytes of UTF-8.
+    static constexpr std::size_t kLongestPasteboardText = 65536;
+
+    using PasteboardAnswer = std::function<void(const PasteboardText&)>;
+    // Asks for the text on the general pasteboard. The answer comes once, at once or from the event
+    // loop within half a second; that to an earlier request, if it is still to come, never does.
+    virtual void requestPasteboardString(PasteboardAnswer answer) = 0;
+    // The request under way, if there is one, gets no answer.
+    virtual void dropPasteboardRequest() = 0;
     virtual void setPasteboardString(const std::u16string& text) = 0;
 
   protected:

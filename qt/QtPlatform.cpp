@@ -11,7 +11,9 @@
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QUrl>
+#include <utility>
 
+#include "qt/SelectionReader.h"
 #include "qt/conversions.h"
 #include "qt/screen_places.h"
 
@@ -36,6 +38,13 @@ std::uint32_t groupingSizeOf(const QLocale& locale) {
                      : 0;
 }
 
+PasteboardText textOf(const QMimeData* data) {
+    if (data == nullptr || !data->hasText()) {
+        return {};
+    }
+    return {.outcome = PasteboardOutcome::text, .text = data->text().toStdU16String()};
+}
+
 }  // namespace
 
 QtPlatform::QtPlatform() {
@@ -44,6 +53,8 @@ QtPlatform::QtPlatform() {
         QCoreApplication::installTranslator(&titles_);
     }
 }
+
+QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::NSBeep() { QApplication::beep(); }
 
@@ -59,12 +70,30 @@ NSNumberFormat QtPlatform::numberFormat() const {
             .groupingSize = groupingSizeOf(locale)};
 }
 
-std::optional<std::u16string> QtPlatform::pasteboardString() const {
-    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
-    if (data == nullptr || !data->hasText()) {
-        return std::nullopt;
+// The toolkit would wait for another program's answer.
+void QtPlatform::requestPasteboardString(PasteboardAnswer answer) {
+    const QClipboard* const clipboard = QGuiApplication::clipboard();
+    SelectionReader* const reader = clipboard->ownsClipboard() ? nullptr : selectionReader();
+    if (reader != nullptr) {
+        reader->request(std::move(answer));
+    } else {
+        dropPasteboardRequest();
+        answer(textOf(clipboard->mimeData()));
     }
-    return data->text().toStdU16String();
+}
+
+SelectionReader* QtPlatform::selectionReader() {
+    const bool hasServer = qGuiApp->nativeInterface<QNativeInterface::QX11Application>() != nullptr;
+    if (!selectionReader_ && hasServer) {
+        selectionReader_ = SelectionReader::ofServer();
+    }
+    return selectionReader_.get();
+}
+
+void QtPlatform::dropPasteboardRequest() {
+    if (selectionReader_) {
+        selectionReader_->drop();
+    }
 }
 
 void QtPlatform::setPasteboardString(const std::u16string& text) {

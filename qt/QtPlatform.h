@@ -1,24 +1,30 @@
 #pragma once
 
 #include <QTranslator>
+#include <memory>
 
 #include "platform/Platform.h"
 
 namespace talvex {
+
+class SelectionReader;
 
 // The real desktop behind the ports.
 class QtPlatform final : public Platform {
   public:
     // Needs the application. Takes the titles of the desktop's language where there are such.
     QtPlatform();
+    ~QtPlatform() override;
 
     void NSBeep() override;
     // Shown when the logging category "talvex" is switched on.
     void NSLog(const std::u16string& line) override;
     std::uint32_t arc4random() override;
     [[nodiscard]] NSNumberFormat numberFormat() const override;
-    // The clipboard; the primary selection is left alone.
-    [[nodiscard]] std::optional<std::u16string> pasteboardString() const override;
+    // The clipboard; the primary selection is left alone. Without an X server the toolkit reads it,
+    // which waits for the program that has the text.
+    void requestPasteboardString(PasteboardAnswer answer) override;
+    void dropPasteboardRequest() override;
     void setPasteboardString(const std::u16string& text) override;
     [[nodiscard]] std::string NSHomeDirectory() const override;
     [[nodiscard]] std::vector<NSRect> visibleFramesOfScreens() const override;
@@ -29,7 +35,11 @@ class QtPlatform final : public Platform {
     void terminate() override;
 
   private:
+    // Null where there is no X server.
+    SelectionReader* selectionReader();
+
     QTranslator titles_;
+    std::unique_ptr<SelectionReader> selectionReader_;
 };
 
 }  // namespace talvex

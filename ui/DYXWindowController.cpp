@@ -53,10 +53,15 @@ DYXWindowController::DYXWindowController(Platform& platform, std::unique_ptr<Win
     showStatusLines();
 }
 
+DYXWindowController::~DYXWindowController() { platform().dropPasteboardRequest(); }
+
 void DYXWindowController::connectControls() {
     views_->window.setDelegate(this);
     views_->displayView->setDelegate(this);
-    const auto runKey = [this](NSButton& button) { takeDYXButtonFrom(button); };
+    const auto runKey = [this](NSButton& button) {
+        takeDYXButtonFrom(button);
+        giveUpPaste();
+    };
     views_->keyPad.setKeyAction(runKey);
     views_->memoryPanel.setKeyAction(runKey);
     views_->constantsPanel.setKeyAction(runKey);
@@ -85,6 +90,7 @@ bool DYXWindowController::keyDown(const NSEvent& event) {
         hotKeys_->find(event.charactersIgnoringModifiers.front(), hotKeyState());
     if (hotKey != nullptr) {
         doCommand(hotKey->command);
+        giveUpPaste();
     }
     updateModifiers();
     return hotKey != nullptr;

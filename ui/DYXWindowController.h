@@ -26,6 +26,7 @@ class DYXWindowController final : public DYXCalculator,
                                   public DYXStatusLineProtocol {
   public:
     explicit DYXWindowController(Platform& platform);
+    ~DYXWindowController() override;
 
     [[nodiscard]] WindowViews& views() { return *views_; }
     [[nodiscard]] const WindowViews& views() const { return *views_; }
@@ -143,8 +144,9 @@ class DYXWindowController final : public DYXCalculator,
     // or, by the setting, without. In clipboard.cpp.
     [[nodiscard]] std::u16string stringRepresentation();
     void copy();
-    // Brings the number that the text on the pasteboard starts with to X; a live entry is dropped,
-    // a number is pushed onto the stack.
+    // Brings the number that the text on the pasteboard starts with to X, as soon as the text is
+    // there; a live entry is dropped, a number is pushed onto the stack. A command given meanwhile
+    // gives the paste up: the number would come in the midst of what the user does next.
     void paste();
 
     // The saved state, in saved_state.cpp. What can't be read or written is passed over.
@@ -173,6 +175,9 @@ class DYXWindowController final : public DYXCalculator,
                         std::unique_ptr<HotKeys>& hotKeys);
 
     void updateControls() override;
+    void takePastedText(const PasteboardText& answer);
+    void giveUpPaste();
+    void tellThatPasteIsLate();
     void connectControls();
     void connectDrawers();
     void followModes();
@@ -211,6 +216,7 @@ class DYXWindowController final : public DYXCalculator,
     StateFile stateFile_;
     bool hasSavedFrame_ = false;
     std::int32_t helpViewTextSize_ = 0;
+    bool isPasting_ = false;
 };
 
 }  // namespace talvex

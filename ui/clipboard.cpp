@@ -36,11 +36,20 @@ std::u16string DYXWindowController::stringRepresentation() {
 void DYXWindowController::copy() { platform().setPasteboardString(stringRepresentation()); }
 
 void DYXWindowController::paste() {
-    const std::optional<std::u16string> text = platform().pasteboardString();
-    if (!text) {
+    isPasting_ = true;
+    platform().requestPasteboardString(
+        [this](const PasteboardText& answer) { takePastedText(answer); });
+}
+
+void DYXWindowController::takePastedText(const PasteboardText& answer) {
+    isPasting_ = false;
+    if (answer.outcome == PasteboardOutcome::late) {
+        tellThatPasteIsLate();
+    }
+    if (answer.outcome != PasteboardOutcome::text) {
         return;
     }
-    const double number = ZUStringExtensions::internationalDoubleValue(*text);
+    const double number = ZUStringExtensions::internationalDoubleValue(answer.text);
     if (inputState() == InputState::entering) {
         setInputState(InputState::lifting);
     } else {
@@ -49,6 +58,20 @@ void DYXWindowController::paste() {
     }
     stack().x() = number;
     updateDisplay();
+}
+
+void DYXWindowController::giveUpPaste() {
+    if (isPasting_) {
+        isPasting_ = false;
+        platform().dropPasteboardRequest();
+        tellThatPasteIsLate();
+    }
+}
+
+// Until the next update of the display.
+void DYXWindowController::tellThatPasteIsLate() {
+    platform().NSBeep();
+    xDisplay().statusField()->setStringValue(localized(u"paste: no answer"));
 }
 
 }  // namespace talvex
