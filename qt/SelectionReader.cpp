@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 constexpr auto kMoment = 50ms;
 constexpr auto kLimit = 500ms;
 constexpr auto kMostBytes = static_cast<qsizetype>(PasteboardPort::kLongestPasteboardText);
-constexpr std::uint32_t kBytesOfUnit = 4;  // in which lengths of properties are counted
+constexpr qsizetype kBytesOfUnit = 4;  // in which lengths of properties are counted
 
 // As what a text may be had, the best first.
 constexpr std::array<std::string_view, 4> kTargets{"UTF8_STRING", "text/plain;charset=utf-8",
@@ -121,6 +121,14 @@ void SelectionReader::askForTarget() {
     xcb_flush(connection_.get());
 }
 
+void SelectionReader::askForNextTarget() {
+    if (++transfer_->target < targets_.size()) {
+        askForTarget();
+    } else {
+        finishWith({});
+    }
+}
+
 void SelectionReader::waitAMoment() {
     const QDeadlineTimer end(kMoment);
     while (transfer_ && !end.hasExpired()) {
@@ -149,12 +157,16 @@ void SelectionReader::takeEvents() {
 }
 
 void SelectionReader::takeEvent(const xcb_selection_notify_event_t& event) {
-    if (!transfer_ || event.requestor != transfer_->window) {
-        forget(event.requestor, false);
+    if (Transfer* const transfer = leftover(event.requestor)) {
+        const Property property = propertyOf(event.requestor, 0);
+        transfer->isInPieces = property.type == inPieces_;
+        takeRest(*transfer);
+    } else if (!transfer_ || event.requestor != transfer_->window) {
+        return;
     } else if (event.property == XCB_ATOM_NONE) {
         askForNextTarget();
     } else {
-        takeWhole(writtenProperty());
+        takeWhole(propertyOf(event.requestor, kMostBytes));
     }
 }
 
@@ -162,29 +174,36 @@ void SelectionReader::takeEvent(const xcb_property_notify_event_t& event) {
     if (event.state != XCB_PROPERTY_NEW_VALUE) {
         return;
     }
-    if (!transfer_ || event.window != transfer_->window) {
-        forget(event.window, true);
-    } else if (transfer_->isInPieces) {
-        takePiece(writtenProperty());
+    Transfer* const transfer = leftover(event.window);
+    if (transfer != nullptr && transfer->isInPieces) {
+        takeRest(*transfer);
+    } else if (transfer_ && event.window == transfer_->window && transfer_->isInPieces) {
+        takePiece(propertyOf(event.window, kMostBytes - transfer_->bytes.size()));
     }
 }
 
-SelectionReader::Property SelectionReader::writtenProperty() const {
-    const auto room = static_cast<std::uint32_t>(kMostBytes - transfer_->bytes.size());
-    const auto cookie = xcb_get_property(connection_.get(), 0, transfer_->window, property_,
-                                         XCB_GET_PROPERTY_TYPE_ANY, 0, room / kBytesOfUnit + 1);
+SelectionReader::Property SelectionReader::propertyOf(xcb_window_t window,
+                                                      qsizetype wantedBytes) const {
+    const auto units = static_cast<std::uint32_t>((wantedBytes + kBytesOfUnit - 1) / kBytesOfUnit);
+    const auto cookie = xcb_get_property(connection_.get(), 0, window, property_,
+                                         XCB_GET_PROPERTY_TYPE_ANY, 0, units);
     const auto reply = owned(xcb_get_property_reply(connection_.get(), cookie, nullptr));
     if (!reply) {
         return {};
     }
-    const auto length =
-        std::min(xcb_get_property_value_length(reply.get()), static_cast<int>(room));
+    const qsizetype length = xcb_get_property_value_length(reply.get());
     return {.type = reply->type,
-            .bytes = {static_cast<const char*>(xcb_get_property_value(reply.get())), length}};
+            .bytes = {static_cast<const char*>(xcb_get_property_value(reply.get())),
+                      std::min(length, wantedBytes)},
+            .isEmpty = length == 0 && reply->bytes_after == 0};
+}
+
+void SelectionReader::deletePropertyOf(xcb_window_t window) {
+    xcb_delete_property(connection_.get(), window, property_);
 }
 
 void SelectionReader::takeWhole(const Property& property) {
-    deleteProperty();
+    deletePropertyOf(transfer_->window);
     if (property.type == inPieces_) {
         transfer_->isInPieces = true;
     } else if (property.type == XCB_ATOM_NONE) {
@@ -194,30 +213,21 @@ void SelectionReader::takeWhole(const Property& property) {
     }
 }
 
-// An empty piece is the last one. An owner whose text is longer than wanted waits for us to ask for
-// more; as the window goes, it knows that we won't.
+// An empty piece is the last one.
 void SelectionReader::takePiece(const Property& property) {
     transfer_->bytes += property.bytes;
-    if (property.bytes.isEmpty() || transfer_->bytes.size() == kMostBytes) {
-        finishWith(textOf(property.type, transfer_->bytes));
-    } else {
-        deleteProperty();
+    const bool isLongEnough = transfer_->bytes.size() == kMostBytes;
+    if (!property.isEmpty && !isLongEnough) {
+        deletePropertyOf(transfer_->window);
+        return;
     }
+    const PasteboardText text = textOf(property.type, transfer_->bytes);
+    abandon();
+    takeRest(leftovers_.back());
+    finishWith(text);
 }
 
-void SelectionReader::deleteProperty() {
-    xcb_delete_property(connection_.get(), transfer_->window, property_);
-}
-
-void SelectionReader::askForNextTarget() {
-    if (++transfer_->target < targets_.size()) {
-        askForTarget();
-    } else {
-        finishWith({});
-    }
-}
-
-void SelectionReader::finishWith(PasteboardText text) {
+void SelectionReader::finishWith(const PasteboardText& text) {
     limit_.stop();
     if (transfer_) {
         xcb_destroy_window(connection_.get(), transfer_->window);
@@ -232,18 +242,39 @@ void SelectionReader::finishWith(PasteboardText text) {
 // the error that it is gone.
 void SelectionReader::abandon() {
     if (transfer_) {
-        abandoned_.push_back(*std::exchange(transfer_, std::nullopt));
+        leftovers_.push_back(*std::exchange(transfer_, std::nullopt));
     }
 }
 
-void SelectionReader::forget(xcb_window_t window, bool isInPieces) {
-    std::erase_if(abandoned_, [&](const Transfer& transfer) {
-        const bool isIt = transfer.window == window && transfer.isInPieces == isInPieces;
-        if (isIt) {
-            xcb_destroy_window(connection_.get(), window);
-        }
-        return isIt;
-    });
+SelectionReader::Transfer* SelectionReader::leftover(xcb_window_t window) {
+    const auto transfer =
+        std::find_if(leftovers_.begin(), leftovers_.end(),
+                     [window](const Transfer& candidate) { return candidate.window == window; });
+    return transfer == leftovers_.end() ? nullptr : &*transfer;
+}
+
+// The owner has written something that is of no use any more. One that still has pieces learns by
+// the end of the window that they aren't wanted, if it looks; if it doesn't, it would wait for ever
+// and serve nobody, and so it gets rid of them unread.
+void SelectionReader::takeRest(Transfer& transfer) {
+    const bool hasMore = transfer.isInPieces && !propertyOf(transfer.window, 0).isEmpty;
+    if (hasMore && !isWatched(transfer.window)) {
+        deletePropertyOf(transfer.window);
+    } else {
+        forget(transfer.window);
+    }
+}
+
+bool SelectionReader::isWatched(xcb_window_t window) const {
+    const auto cookie = xcb_get_window_attributes(connection_.get(), window);
+    const auto reply = owned(xcb_get_window_attributes_reply(connection_.get(), cookie, nullptr));
+    return reply && (reply->all_event_masks & XCB_EVENT_MASK_STRUCTURE_NOTIFY) != 0;
+}
+
+void SelectionReader::forget(xcb_window_t window) {
+    xcb_destroy_window(connection_.get(), window);
+    std::erase_if(leftovers_,
+                  [window](const Transfer& transfer) { return transfer.window == window; });
 }
 
 }  // namespace talvex

@@ -41,28 +41,33 @@ class SelectionReader final : public QObject {
         bool isInPieces = false;
         QByteArray bytes = {};
     };
+    // What the owner has written, as far as it was wanted.
     struct Property {
         xcb_atom_t type = XCB_ATOM_NONE;
         QByteArray bytes = {};
+        bool isEmpty = true;
     };
 
     explicit SelectionReader(Connection connection);
     void internAtoms();
     [[nodiscard]] xcb_window_t newWindow();
     void askForTarget();
+    void askForNextTarget();
     void waitAMoment();
     void takeEvents();
     void takeEvent(const xcb_selection_notify_event_t& event);
     void takeEvent(const xcb_property_notify_event_t& event);
-    [[nodiscard]] Property writtenProperty() const;
+    [[nodiscard]] Property propertyOf(xcb_window_t window, qsizetype wantedBytes) const;
+    // Of a text in pieces this asks for the next one.
+    void deletePropertyOf(xcb_window_t window);
     void takeWhole(const Property& property);
     void takePiece(const Property& property);
-    // Of a text in pieces this asks for the next one.
-    void deleteProperty();
-    void askForNextTarget();
-    void finishWith(PasteboardText text);
+    void finishWith(const PasteboardText& text);
     void abandon();
-    void forget(xcb_window_t window, bool isInPieces);
+    [[nodiscard]] Transfer* leftover(xcb_window_t window);
+    void takeRest(Transfer& transfer);
+    [[nodiscard]] bool isWatched(xcb_window_t window) const;
+    void forget(xcb_window_t window);
 
     Connection connection_;
     QSocketNotifier notifier_;
@@ -73,7 +78,7 @@ class SelectionReader final : public QObject {
     xcb_atom_t property_ = XCB_ATOM_NONE;
     std::optional<Transfer> transfer_;
     PasteboardPort::PasteboardAnswer answer_;
-    std::vector<Transfer> abandoned_;
+    std::vector<Transfer> leftovers_;  // nobody waits for them any more
 };
 
 }  // namespace talvex

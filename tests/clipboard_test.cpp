@@ -120,6 +120,30 @@ TEST_F(Clipboard, PastesOntoTheStackByTheState) {
     EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{8, 1, 2, 3}));
 }
 
+TEST_F(Clipboard, WaitsForALateTextUntilTheUserGoesOn) {
+    const auto status = [&] { return controller.xDisplay().statusField()->stringValue(); };
+    const PasteboardText nine{.outcome = PasteboardOutcome::text, .text = u"9"};
+    platform.pasteboardAnswersAtOnce = false;
+    type(u"5");
+    controller.paste();
+    controller.paste();
+    EXPECT_EQ(status(), u"entering significand\u2026");
+    platform.answerPasteboardRequest(nine);
+    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{9, 0, 0, 0})) << "one number for two";
+    controller.paste();
+    platform.answerPasteboardRequest({.outcome = PasteboardOutcome::late, .text = {}});
+    EXPECT_EQ(status(), u"paste: no answer");
+    EXPECT_EQ(platform.beeps, 1);
+    controller.paste();
+    type(u"7");
+    platform.answerPasteboardRequest(nine);
+    EXPECT_EQ(status(), u"paste: no answer");
+    EXPECT_EQ(platform.beeps, 2);
+    type(u"\r");
+    EXPECT_EQ(status(), u"");
+    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{7, 7, 9, 0}));
+}
+
 TEST(InternationalDoubleValue, ReadsTheNumberThatATextStartsWith) {
     const struct {
         Text text;

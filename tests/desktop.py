@@ -52,6 +52,17 @@ class Screen:
             count += 1
         return count
 
+    def take_clipboard(self):
+        """Whoever asks for what is in it waits for an answer: we are like a program that hangs."""
+        self.x11.XCreateSimpleWindow.restype = ctypes.c_ulong
+        window = self.x11.XCreateSimpleWindow(self.display, self.root, 0, 0, 1, 1, 0, 0, 0)
+        clipboard = self.x11.XInternAtom(self.display, b"CLIPBOARD", 0)
+        self.x11.XSetSelectionOwner(self.display, clipboard, ctypes.c_ulong(window), 0)
+        self.x11.XSync(self.display, 0)
+
+    def close(self):
+        self.x11.XCloseDisplay(self.display)
+
     def pixel(self, x, y):
         image = ctypes.c_void_p(self.x11.XGetImage(
             self.display, self.root, x, y, 1, 1, ctypes.c_ulong(0xFFFFFF), Z_PIXMAP))

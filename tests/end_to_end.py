@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Drives the real program on a virtual desktop with real keys and clicks, and reads its display as
 a screen reader does. Usage: end_to_end.py PROGRAM, within a D-Bus session of its own."""
+import contextlib
 import os
 import pathlib
 import shutil
@@ -11,7 +12,7 @@ import unittest
 
 import gi
 
-from desktop import desktop, running, wait_until, xdotool
+from desktop import Screen, desktop, running, wait_until, xdotool
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402  the version comes first
@@ -173,9 +174,23 @@ class EndToEnd(unittest.TestCase):
         clipboard = ["xclip", "-selection", "clipboard"]
         wait_until(lambda: subprocess.run([*clipboard, "-o"], capture_output=True).stdout ==
                    b"2.5000", "the copied number")
-        subprocess.run(clipboard, input=b"-7,25 and so on", check=True)
+        text = b"-7,25" + b" and so on" * 1000000
+        subprocess.run(clipboard, input=text, check=True)
         xdotool("key", "shift+Insert")
         self.expect_x("-7.250" + THIN + "0")
+        again = subprocess.run([*clipboard, "-o"], capture_output=True, timeout=10).stdout
+        self.assertEqual(again, text)
+
+    def test_a_hung_program_that_owns_the_clipboard_holds_up_nothing(self):
+        with contextlib.closing(Screen(os.environ["DISPLAY"])) as program:
+            program.take_clipboard()
+            xdotool("key", "shift+Insert")
+            wait_until(lambda: self.calculator.find("paste: no answer"), "the word", seconds=2)
+            wait_until(SCREEN.bells, "the bell")
+            xdotool("key", "shift+Insert", "7")
+            wait_until(lambda: self.calculator.line("X") == "X: 7", "a key", seconds=2)
+            wait_until(SCREEN.bells, "the bell")
+            self.expect_x("7")
 
     def test_a_restart_brings_the_entry_back(self):
         xdotool("key", "4", "2")
