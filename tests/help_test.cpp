@@ -190,6 +190,10 @@ TEST_F(Help, CountsTheStepsOfItsText) {
     controller.takeMakeHelpTextLargerFrom();
     controller.takeMakeHelpTextLargerFrom();
     EXPECT_EQ(view.textSteps(), 2);
+    for (int step = 0; step < 18; ++step) {
+        controller.takeMakeHelpTextLargerFrom();
+    }
+    EXPECT_EQ(view.textSteps(), WebView::kLargestText);
     controller.takeMakeHelpTextNormalFrom();
     EXPECT_EQ(view.textSteps(), 0);
     controller.setHelpViewTextToSize(-2);
@@ -197,6 +201,8 @@ TEST_F(Help, CountsTheStepsOfItsText) {
     controller.setHelpViewTextToSize(2'000'000'000);  // as a damaged file has it
     EXPECT_EQ(view.textSteps(), WebView::kLargestText);
     EXPECT_EQ(controller.helpViewTextSize(), 2'000'000'000);
+    controller.takeMakeHelpTextNormalFrom();
+    EXPECT_EQ(view.textSteps(), 0);
     controller.setHelpViewTextToSize(-2'147'483'647 - 1);
     controller.takeMakeHelpTextSmallerFrom();
     EXPECT_EQ(view.textSteps(), WebView::kSmallestText);

@@ -110,7 +110,7 @@ class DYXWindowController final : public DYXCalculator,
     void takeToggleHelpWindowFrom();
     // Shows what the help tells about the command of a key.
     void showHelpFor(std::u16string_view command);
-    // Steps above the normal size of the text.
+    // Steps above the normal size of the text; they count on beyond the range of the view.
     [[nodiscard]] std::int32_t helpViewTextSize() const { return helpViewTextSize_; }
     void setHelpViewTextToSize(std::int32_t size);
     void takeMakeHelpTextLargerFrom();

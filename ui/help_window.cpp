@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <limits>
 
 #include "ui/DYXWindowController.h"
@@ -13,9 +12,6 @@ namespace {
 
 // What the user's own programs show; the names count to the letter.
 constexpr std::array<std::u16string_view, 3> kOutsideSchemes{u"https", u"http", u"mailto"};
-
-// More steps than any view has.
-constexpr std::int64_t kMostSteps = 64;
 
 }  // namespace
 
@@ -66,9 +62,12 @@ void DYXWindowController::showHelpFor(std::u16string_view command) {
 
 void DYXWindowController::setHelpViewTextToSize(std::int32_t size) {
     WebView& view = views_->help.webView;
-    const std::int64_t steps = std::int64_t{size} - helpViewTextSize_;
-    for (std::int64_t step = std::min(kMostSteps, std::abs(steps)); step > 0; --step) {
-        steps > 0 ? view.makeTextLarger() : view.makeTextSmaller();
+    const int shown = std::clamp<int>(size, WebView::kSmallestText, WebView::kLargestText);
+    while (view.textSteps() > shown) {
+        view.makeTextSmaller();
+    }
+    while (view.textSteps() < shown) {
+        view.makeTextLarger();
     }
     helpViewTextSize_ = size;
 }
