@@ -112,6 +112,9 @@ TEST_F(SavedFile, BringsEverythingBackToTheBit) {
     EXPECT_FALSE(calculator.settings().autoHideXLabel);
     EXPECT_FALSE(calculator.settings().animateWindow);
     EXPECT_FALSE(calculator.settings().statusLinesEnabled);
+    for (const Key& key : calculator.views().allKeys()) {
+        EXPECT_EQ(key.button->toolTip(), u"") << "the desktop would show it, marks and all";
+    }
     EXPECT_FALSE(line.reduceCarpentryFractions());
     EXPECT_TRUE(line.displayIrrationals());
     EXPECT_FALSE(calculator.useHPStylePowerAndLogs);

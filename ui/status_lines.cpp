@@ -74,6 +74,7 @@ std::array<DYXStatusLineView*, 4> DYXWindowController::statusLineViews() const {
 void DYXWindowController::showStatusLines() {
     for (DYXStatusLineView* const view : statusLineViews()) {
         view->setDelegate(this);
+        view->buildStatusLines(*hotKeys_);  // which takes the hints from the desktop
         view->removeTrackingRects();
     }
     views_->conversionPanel.tabView->setShowStatusLines(false);
