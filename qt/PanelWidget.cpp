@@ -9,6 +9,11 @@
 #include "qt/rich_text.h"
 
 namespace talvex {
+namespace {
+
+constexpr int kPadding = 2;
+
+}  // namespace
 
 StatusFieldWidget::StatusFieldWidget(NSTextField& record, QWidget* parent, const NSView* within)
     : QLabel(parent), record_(record), observer_(*this, record, {}, within) {}
@@ -18,9 +23,14 @@ void StatusFieldWidget::paintEvent(QPaintEvent* /*event*/) {
     if (text.string.empty()) {
         return;
     }
+    // The field may reach over the edge of what it lies on, or have its place beyond it.
+    const QRect room = rect() & parentWidget()->rect().translated(-pos());
+    if (room.height() < height() / 2) {
+        return;
+    }
     QPainter painter(this);
     painter.setPen(windowColors(palette()).title);
-    paintLeft(painter, rect(), text);
+    paintLeft(painter, room.adjusted(kPadding, 0, -kPadding, 0), text);
 }
 
 PanelWidget::PanelWidget(NSView& view, const std::vector<Key>& keys, QWidget* parent)
