@@ -4,6 +4,14 @@
     <context>
         <name>titles</name>
         <message>
+            <source>+</source>
+            <translation>+</translation>
+        </message>
+        <message>
+            <source>+/−</source>
+            <translation>+/−</translation>
+        </message>
+        <message>
             <source>0</source>
             <translation>0</translation>
         </message>
@@ -28,8 +36,16 @@
             <translation>1 over the square root of 2</translation>
         </message>
         <message>
+            <source>1/x</source>
+            <translation>1/x</translation>
+        </message>
+        <message>
             <source>10 to the power X</source>
             <translation>10 to the power X</translation>
+        </message>
+        <message>
+            <source>10^x</source>
+            <translation>10^x</translation>
         </message>
         <message>
             <source>2</source>
@@ -50,6 +66,10 @@
         <message>
             <source>2 to the power X</source>
             <translation>2 to the power X</translation>
+        </message>
+        <message>
+            <source>2^x</source>
+            <translation>2^x</translation>
         </message>
         <message>
             <source>3</source>
@@ -86,6 +106,10 @@
         <message>
             <source>A</source>
             <translation>A</translation>
+        </message>
+        <message>
+            <source>AND</source>
+            <translation>AND</translation>
         </message>
         <message>
             <source>Acceleration</source>
@@ -130,6 +154,10 @@
         <message>
             <source>Base of Powers and Logarithms in Y</source>
             <translation>Base of Powers and Logarithms in Y</translation>
+        </message>
+        <message>
+            <source>Bessel error</source>
+            <translation>Bessel error</translation>
         </message>
         <message>
             <source>Bessel function of the first kind</source>
@@ -186,6 +214,22 @@
         <message>
             <source>CAR</source>
             <translation>CAR</translation>
+        </message>
+        <message>
+            <source>CLALL</source>
+            <translation>CLALL</translation>
+        </message>
+        <message>
+            <source>CLR</source>
+            <translation>CLR</translation>
+        </message>
+        <message>
+            <source>CLST</source>
+            <translation>CLST</translation>
+        </message>
+        <message>
+            <source>C_{y,x}</source>
+            <translation>C_{y,x}</translation>
         </message>
         <message>
             <source>Catalan's constant</source>
@@ -260,8 +304,16 @@
             <translation>E</translation>
         </message>
         <message>
+            <source>EEX</source>
+            <translation>EEX</translation>
+        </message>
+        <message>
             <source>ENG</source>
             <translation>ENG</translation>
+        </message>
+        <message>
+            <source>ENTER</source>
+            <translation>ENTER</translation>
         </message>
         <message>
             <source>Edit</source>
@@ -328,6 +380,10 @@
             <translation>HRS</translation>
         </message>
         <message>
+            <source>HYP</source>
+            <translation>HYP</translation>
+        </message>
+        <message>
             <source>Help</source>
             <translation>Help</translation>
         </message>
@@ -360,12 +416,28 @@
             <translation>Hide the X Label when X Stands Alone</translation>
         </message>
         <message>
+            <source>INV</source>
+            <translation>INV</translation>
+        </message>
+        <message>
             <source>IRR</source>
             <translation>IRR</translation>
         </message>
         <message>
             <source>Input</source>
             <translation>Input</translation>
+        </message>
+        <message>
+            <source>J_{0}(x)</source>
+            <translation>J_{0}(x)</translation>
+        </message>
+        <message>
+            <source>J_{1}(x)</source>
+            <translation>J_{1}(x)</translation>
+        </message>
+        <message>
+            <source>J_{x}(y)</source>
+            <translation>J_{x}(y)</translation>
         </message>
         <message>
             <source>Josephson constant</source>
@@ -378,6 +450,10 @@
         <message>
             <source>Keyboard</source>
             <translation>Keyboard</translation>
+        </message>
+        <message>
+            <source>LASTx</source>
+            <translation>LASTx</translation>
         </message>
         <message>
             <source>Larger Text</source>
@@ -416,6 +492,14 @@
             <translation>Monospaced</translation>
         </message>
         <message>
+            <source>NAND</source>
+            <translation>NAND</translation>
+        </message>
+        <message>
+            <source>NOT</source>
+            <translation>NOT</translation>
+        </message>
+        <message>
             <source>Newtonian constant of gravitation</source>
             <translation>Newtonian constant of gravitation</translation>
         </message>
@@ -434,6 +518,10 @@
         <message>
             <source>OCT</source>
             <translation>OCT</translation>
+        </message>
+        <message>
+            <source>OR</source>
+            <translation>OR</translation>
         </message>
         <message>
             <source>Output</source>
@@ -476,6 +564,10 @@
             <translation>RAD</translation>
         </message>
         <message>
+            <source>RCL</source>
+            <translation>RCL</translation>
+        </message>
+        <message>
             <source>REV</source>
             <translation>REV</translation>
         </message>
@@ -496,8 +588,36 @@
             <translation>Rydberg constant</translation>
         </message>
         <message>
+            <source>R↑</source>
+            <translation>R↑</translation>
+        </message>
+        <message>
+            <source>R↓</source>
+            <translation>R↓</translation>
+        </message>
+        <message>
             <source>SCI</source>
             <translation>SCI</translation>
+        </message>
+        <message>
+            <source>STO</source>
+            <translation>STO</translation>
+        </message>
+        <message>
+            <source>STO+</source>
+            <translation>STO+</translation>
+        </message>
+        <message>
+            <source>STO×</source>
+            <translation>STO×</translation>
+        </message>
+        <message>
+            <source>STO÷</source>
+            <translation>STO÷</translation>
+        </message>
+        <message>
+            <source>STO−</source>
+            <translation>STO−</translation>
         </message>
         <message>
             <source>Save</source>
@@ -550,6 +670,10 @@
         <message>
             <source>Stefan-Boltzmann constant</source>
             <translation>Stefan-Boltzmann constant</translation>
+        </message>
+        <message>
+            <source>Talvex Help</source>
+            <translation>Talvex Help</translation>
         </message>
         <message>
             <source>Tell What a Key Does</source>
@@ -648,12 +772,28 @@
             <translation>X to the power Y</translation>
         </message>
         <message>
+            <source>XOR</source>
+            <translation>XOR</translation>
+        </message>
+        <message>
             <source>Y shifted left by X bits</source>
             <translation>Y shifted left by X bits</translation>
         </message>
         <message>
             <source>Y shifted right by X bits</source>
             <translation>Y shifted right by X bits</translation>
+        </message>
+        <message>
+            <source>Y_{0}(x)</source>
+            <translation>Y_{0}(x)</translation>
+        </message>
+        <message>
+            <source>Y_{1}(x)</source>
+            <translation>Y_{1}(x)</translation>
+        </message>
+        <message>
+            <source>Y_{x}(y)</source>
+            <translation>Y_{x}(y)</translation>
         </message>
         <message>
             <source>a quarter of pi</source>
@@ -682,6 +822,10 @@
         <message>
             <source>angle mode</source>
             <translation>angle mode</translation>
+        </message>
+        <message>
+            <source>approx</source>
+            <translation>approx</translation>
         </message>
         <message>
             <source>astronomical unit</source>
@@ -744,6 +888,10 @@
             <translation>calorie</translation>
         </message>
         <message>
+            <source>cancel</source>
+            <translation>cancel</translation>
+        </message>
+        <message>
             <source>centi, 10^{−2}</source>
             <translation>centi, 10^{−2}</translation>
         </message>
@@ -762,6 +910,10 @@
         <message>
             <source>clear X</source>
             <translation>clear X</translation>
+        </message>
+        <message>
+            <source>clear all</source>
+            <translation>clear all</translation>
         </message>
         <message>
             <source>clear all memory registers</source>
@@ -792,6 +944,10 @@
             <translation>conductance quantum</translation>
         </message>
         <message>
+            <source>cos</source>
+            <translation>cos</translation>
+        </message>
+        <message>
             <source>cosecant</source>
             <translation>cosecant</translation>
         </message>
@@ -800,8 +956,16 @@
             <translation>cosine</translation>
         </message>
         <message>
+            <source>cot</source>
+            <translation>cot</translation>
+        </message>
+        <message>
             <source>cotangent</source>
             <translation>cotangent</translation>
+        </message>
+        <message>
+            <source>csc</source>
+            <translation>csc</translation>
         </message>
         <message>
             <source>cube root</source>
@@ -888,6 +1052,10 @@
             <translation>e to the power X</translation>
         </message>
         <message>
+            <source>e^x</source>
+            <translation>e^x</translation>
+        </message>
+        <message>
             <source>electric constant</source>
             <translation>electric constant</translation>
         </message>
@@ -920,6 +1088,22 @@
             <translation>enter exponent</translation>
         </message>
         <message>
+            <source>entering exponent…</source>
+            <translation>entering exponent…</translation>
+        </message>
+        <message>
+            <source>entering significand…</source>
+            <translation>entering significand…</translation>
+        </message>
+        <message>
+            <source>erf</source>
+            <translation>erf</translation>
+        </message>
+        <message>
+            <source>erfc</source>
+            <translation>erfc</translation>
+        </message>
+        <message>
             <source>erg</source>
             <translation>erg</translation>
         </message>
@@ -934,6 +1118,10 @@
         <message>
             <source>exa, 10^{18}</source>
             <translation>exa, 10^{18}</translation>
+        </message>
+        <message>
+            <source>exact</source>
+            <translation>exact</translation>
         </message>
         <message>
             <source>exchange X and Y</source>
@@ -968,6 +1156,10 @@
             <translation>factorial</translation>
         </message>
         <message>
+            <source>factorial error</source>
+            <translation>factorial error</translation>
+        </message>
+        <message>
             <source>femto, 10^{−15}</source>
             <translation>femto, 10^{−15}</translation>
         </message>
@@ -986,6 +1178,10 @@
         <message>
             <source>foot per second squared</source>
             <translation>foot per second squared</translation>
+        </message>
+        <message>
+            <source>frac</source>
+            <translation>frac</translation>
         </message>
         <message>
             <source>fractional part</source>
@@ -1064,6 +1260,10 @@
             <translation>hour of angle, 15 degrees</translation>
         </message>
         <message>
+            <source>hyperbolic error</source>
+            <translation>hyperbolic error</translation>
+        </message>
+        <message>
             <source>hyperbolic form of the next function</source>
             <translation>hyperbolic form of the next function</translation>
         </message>
@@ -1084,8 +1284,24 @@
             <translation>inch of mercury</translation>
         </message>
         <message>
+            <source>indeterminate</source>
+            <translation>indeterminate</translation>
+        </message>
+        <message>
+            <source>inexact</source>
+            <translation>inexact</translation>
+        </message>
+        <message>
+            <source>input error</source>
+            <translation>input error</translation>
+        </message>
+        <message>
             <source>input mode</source>
             <translation>input mode</translation>
+        </message>
+        <message>
+            <source>int</source>
+            <translation>int</translation>
         </message>
         <message>
             <source>integer part</source>
@@ -1186,6 +1402,30 @@
         <message>
             <source>litre</source>
             <translation>litre</translation>
+        </message>
+        <message>
+            <source>ln</source>
+            <translation>ln</translation>
+        </message>
+        <message>
+            <source>ln Γ(x)</source>
+            <translation>ln Γ(x)</translation>
+        </message>
+        <message>
+            <source>log</source>
+            <translation>log</translation>
+        </message>
+        <message>
+            <source>log error</source>
+            <translation>log error</translation>
+        </message>
+        <message>
+            <source>log_{2}x</source>
+            <translation>log_{2}x</translation>
+        </message>
+        <message>
+            <source>log_{x}y</source>
+            <translation>log_{x}y</translation>
         </message>
         <message>
             <source>logarithm of Y to the base X</source>
@@ -1372,6 +1612,14 @@
             <translation>multiply a register by X</translation>
         </message>
         <message>
+            <source>n!</source>
+            <translation>n!</translation>
+        </message>
+        <message>
+            <source>n!!</source>
+            <translation>n!!</translation>
+        </message>
+        <message>
             <source>nano, 10^{−9}</source>
             <translation>nano, 10^{−9}</translation>
         </message>
@@ -1402,6 +1650,18 @@
         <message>
             <source>nautical mile</source>
             <translation>nautical mile</translation>
+        </message>
+        <message>
+            <source>nearby</source>
+            <translation>nearby</translation>
+        </message>
+        <message>
+            <source>negative overflow</source>
+            <translation>negative overflow</translation>
+        </message>
+        <message>
+            <source>negative underflow</source>
+            <translation>negative underflow</translation>
         </message>
         <message>
             <source>neutron mass</source>
@@ -1448,6 +1708,10 @@
             <translation>output mode independent of the input mode</translation>
         </message>
         <message>
+            <source>overflow</source>
+            <translation>overflow</translation>
+        </message>
+        <message>
             <source>pages of the help</source>
             <translation>pages of the help</translation>
         </message>
@@ -1458,6 +1722,10 @@
         <message>
             <source>pascal</source>
             <translation>pascal</translation>
+        </message>
+        <message>
+            <source>paste: no answer</source>
+            <translation>paste: no answer</translation>
         </message>
         <message>
             <source>period of so many gigahertz</source>
@@ -1552,12 +1820,20 @@
             <translation>power</translation>
         </message>
         <message>
+            <source>power error</source>
+            <translation>power error</translation>
+        </message>
+        <message>
             <source>proton mass</source>
             <translation>proton mass</translation>
         </message>
         <message>
             <source>radian</source>
             <translation>radian</translation>
+        </message>
+        <message>
+            <source>random</source>
+            <translation>random</translation>
         </message>
         <message>
             <source>random number from 0 to 1</source>
@@ -1584,12 +1860,20 @@
             <translation>revolution</translation>
         </message>
         <message>
+            <source>rint</source>
+            <translation>rint</translation>
+        </message>
+        <message>
             <source>roll the stack down</source>
             <translation>roll the stack down</translation>
         </message>
         <message>
             <source>roll the stack up</source>
             <translation>roll the stack up</translation>
+        </message>
+        <message>
+            <source>round</source>
+            <translation>round</translation>
         </message>
         <message>
             <source>round down</source>
@@ -1610,6 +1894,10 @@
         <message>
             <source>round, halves to even</source>
             <translation>round, halves to even</translation>
+        </message>
+        <message>
+            <source>sec</source>
+            <translation>sec</translation>
         </message>
         <message>
             <source>secant</source>
@@ -1644,6 +1932,10 @@
             <translation>show the status line</translation>
         </message>
         <message>
+            <source>sin</source>
+            <translation>sin</translation>
+        </message>
+        <message>
             <source>sine</source>
             <translation>sine</translation>
         </message>
@@ -1658,6 +1950,10 @@
         <message>
             <source>speed of light in vacuum</source>
             <translation>speed of light in vacuum</translation>
+        </message>
+        <message>
+            <source>sqrt error</source>
+            <translation>sqrt error</translation>
         </message>
         <message>
             <source>square</source>
@@ -1720,6 +2016,10 @@
             <translation>take back STO and RCL</translation>
         </message>
         <message>
+            <source>tan</source>
+            <translation>tan</translation>
+        </message>
+        <message>
             <source>tangent</source>
             <translation>tangent</translation>
         </message>
@@ -1772,6 +2072,18 @@
             <translation>torr</translation>
         </message>
         <message>
+            <source>trig error</source>
+            <translation>trig error</translation>
+        </message>
+        <message>
+            <source>undefined</source>
+            <translation>undefined</translation>
+        </message>
+        <message>
+            <source>underflow</source>
+            <translation>underflow</translation>
+        </message>
+        <message>
             <source>watt</source>
             <translation>watt</translation>
         </message>
@@ -1780,12 +2092,112 @@
             <translation>week</translation>
         </message>
         <message>
+            <source>x ≪ 1</source>
+            <translation>x ≪ 1</translation>
+        </message>
+        <message>
+            <source>x ≫ 1</source>
+            <translation>x ≫ 1</translation>
+        </message>
+        <message>
+            <source>x^2</source>
+            <translation>x^2</translation>
+        </message>
+        <message>
+            <source>x^y</source>
+            <translation>x^y</translation>
+        </message>
+        <message>
+            <source>x⇄y</source>
+            <translation>x⇄y</translation>
+        </message>
+        <message>
+            <source>y div x</source>
+            <translation>y div x</translation>
+        </message>
+        <message>
+            <source>y mod x</source>
+            <translation>y mod x</translation>
+        </message>
+        <message>
+            <source>y rem x</source>
+            <translation>y rem x</translation>
+        </message>
+        <message>
+            <source>y ≪ x</source>
+            <translation>y ≪ x</translation>
+        </message>
+        <message>
+            <source>y ≫ x</source>
+            <translation>y ≫ x</translation>
+        </message>
+        <message>
             <source>yard</source>
             <translation>yard</translation>
         </message>
         <message>
+            <source>|x|</source>
+            <translation>|x|</translation>
+        </message>
+        <message>
+            <source>×</source>
+            <translation>×</translation>
+        </message>
+        <message>
             <source>ångström</source>
             <translation>ångström</translation>
+        </message>
+        <message>
+            <source>÷</source>
+            <translation>÷</translation>
+        </message>
+        <message>
+            <source>Γ(x)</source>
+            <translation>Γ(x)</translation>
+        </message>
+        <message>
+            <source>Δ%</source>
+            <translation>Δ%</translation>
+        </message>
+        <message>
+            <source>ζ(x)</source>
+            <translation>ζ(x)</translation>
+        </message>
+        <message>
+            <source>π</source>
+            <translation>π</translation>
+        </message>
+        <message>
+            <source>−</source>
+            <translation>−</translation>
+        </message>
+        <message>
+            <source>√(x^2+y^2)</source>
+            <translation>√(x^2+y^2)</translation>
+        </message>
+        <message>
+            <source>√(x·y)</source>
+            <translation>√(x·y)</translation>
+        </message>
+        <message>
+            <source>√x</source>
+            <translation>√x</translation>
+        </message>
+        <message>
+            <source>∛x</source>
+            <translation>∛x</translation>
+        </message>
+        <message>
+            <source>⌈x⌉</source>
+            <translation>⌈x⌉</translation>
+        </message>
+        <message>
+            <source>⌊x⌋</source>
+            <translation>⌊x⌋</translation>
+        </message>
+        <message>
+            <source>⌫</source>
+            <translation>⌫</translation>
         </message>
         <message>
             <source>▴ units</source>

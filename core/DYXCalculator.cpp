@@ -62,6 +62,14 @@ DYXCalculator::DYXCalculator(Platform& platform, const DisplayFields& fields)
     zDisplay_->setLabelString(u"Z:");
     tDisplay_->setLabelString(u"T:");
     cDisplay_->setLabelString(u"C:");
+    const auto wording = [&platform](std::u16string_view word) {
+        return platform.localizedString(word);
+    };
+    xDisplay_->setWording(wording);
+    for (DYXOutputDisplay* const line :
+         {yDisplay_.get(), zDisplay_.get(), tDisplay_.get(), cDisplay_.get()}) {
+        line->setWording(wording);
+    }
 }
 
 DisplayFields DYXCalculator::plainFields() {

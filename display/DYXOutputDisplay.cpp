@@ -16,6 +16,7 @@ TextSlot copyOf(const TextSlot& slot) {
     return slot ? ZUTextFieldExtensions::copy(*slot) : TextSlot();
 }
 
+constexpr char16_t kTriangle = u'\u25B8';
 constexpr char16_t kInfinity = u'\u221E';
 
 }  // namespace
@@ -85,7 +86,7 @@ void DYXOutputDisplay::setOutputTo(double number) {
     setTextColor(NSColor::black());
     updateOutputJustification();
     if (std::isnan(number)) {
-        show({.mantissa = DYXnanString(number)});
+        show({.mantissa = worded(DYXnanString(number))});
         return;
     }
     if (std::isinf(number)) {
@@ -103,7 +104,17 @@ void DYXOutputDisplay::show(LineText text) {
     writeMantissaSign(std::move(text.sign));
     writeExponentSign(std::move(text.exponentSign));
     writeExponent(std::move(text.exponent));
-    writeStatus(std::move(text.status));
+    writeStatus(text.statusWord, text.statusRest);
+}
+
+void DYXOutputDisplay::writeStatus(std::u16string_view word, std::u16string_view rest) {
+    if (fields_.status) {
+        write(fields_.status, (word.empty() ? u"" : worded(word)).append(rest));
+    }
+}
+
+std::u16string DYXOutputDisplay::worded(std::u16string_view word) const {
+    return wording_ ? wording_(word) : std::u16string(word);
 }
 
 void DYXOutputDisplay::setIntegerGroupingSeparator(std::u16string separator) {
@@ -139,7 +150,15 @@ void DYXOutputDisplay::setFieldsHidden(bool hidden) {
 }
 
 std::u16string DYXOutputDisplay::outputModeTitle() const {
-    return talvex::outputModeTitle(outputMode_);
+    return modeTitle(ModeTitle::output, outputMode_);
+}
+
+std::u16string DYXOutputDisplay::modeTitle(ModeTitle title, std::int32_t number) const {
+    if (!isDisplayMode(number)) {
+        return displayModeName(number);
+    }
+    const std::u16string name = worded(displayModeName(number));
+    return title == ModeTitle::output ? name + kTriangle : kTriangle + name;
 }
 
 NSColor DYXOutputDisplay::errorColor() {

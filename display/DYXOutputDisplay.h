@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/NSTextField.h"
@@ -88,6 +90,11 @@ class DYXOutputDisplay {
     // Takes all slots off the screen; they go on holding the line's text.
     void setFieldsHidden(bool hidden);
 
+    // How the user's language says a word that the line shows: a status, an error value, a mode.
+    // By itself a line speaks English. Names of bases are no words: they are part of the number.
+    using Wording = std::function<std::u16string(std::u16string_view)>;
+    void setWording(Wording wording) { wording_ = std::move(wording); }
+
     // The mode that the line formats in.
     [[nodiscard]] virtual std::int32_t effectiveOutputMode() const { return outputMode_; }
     // The title of `outputMode`; "???" outside 0 to 12.
@@ -146,7 +153,13 @@ class DYXOutputDisplay {
     void writeMantissaSign(std::u16string text) { write(fields_.mantissaSign, std::move(text)); }
     void writeExponent(std::u16string text) { write(fields_.exponent, std::move(text)); }
     void writeExponentSign(std::u16string text) { write(fields_.exponentSign, std::move(text)); }
-    void writeStatus(std::u16string text) { write(fields_.status, std::move(text)); }
+    // A word, and what isn't one behind it.
+    void writeStatus(std::u16string_view word, std::u16string_view rest = {});
+    [[nodiscard]] std::u16string worded(std::u16string_view word) const;
+
+    enum class ModeTitle { input, output };
+    // The name of a mode with a small triangle ahead of it or behind it.
+    [[nodiscard]] std::u16string modeTitle(ModeTitle title, std::int32_t number) const;
 
   private:
     // How a mode shows a number: by the first of its tries that fits, or else by its formatter.
@@ -165,7 +178,8 @@ class DYXOutputDisplay {
         std::u16string sign = {};
         std::u16string exponentSign = {};
         std::u16string exponent = {};
-        std::u16string status = {};
+        std::u16string statusWord = {};
+        std::u16string statusRest = {};
     };
     void show(LineText text);
     // Printed decimals with the line's point and groups.
@@ -196,6 +210,7 @@ class DYXOutputDisplay {
     std::uint32_t groupingDigits_ = 3;
     std::u16string integerGroupingSeparator_;
     std::u16string decimalGroupingSeparator_;
+    Wording wording_;
     DisplayFields fields_;
 };
 

@@ -35,8 +35,4 @@ constexpr bool isIntegerMode(std::int32_t number) {
 // The three letters of a mode; "???" for any other number.
 std::u16string displayModeName(std::int32_t number);
 
-// The name with a small triangle behind it, and ahead of it; "???" for any other number.
-std::u16string outputModeTitle(std::int32_t number);
-std::u16string inputModeTitle(std::int32_t number);
-
 }  // namespace talvex

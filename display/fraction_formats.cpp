@@ -69,7 +69,7 @@ void DYXOutputDisplay::setFractionTo(double number) {
     }
     show({.mantissa = mixedFractionText(groupedInteger(whole), numerator, denominator),
           .sign = signText(number),
-          .status = statusText(whole + numerator / denominator, magnitude)});
+          .statusWord = statusText(whole + numerator / denominator, magnitude)});
 }
 
 void DYXOutputDisplay::setCarpentryTo(double number) {
@@ -86,7 +86,7 @@ void DYXOutputDisplay::setCarpentryTo(double number) {
     const double numerator = std::trunc(fraction * mark);
     show({.mantissa = mixedFractionText(groupedInteger(whole), numerator, mark),
           .sign = signText(number),
-          .status = statusText(numerator / mark + whole, magnitude)});
+          .statusWord = statusText(numerator / mark + whole, magnitude)});
 }
 
 }  // namespace talvex

@@ -54,22 +54,29 @@ std::int32_t roundedSigned(double number) {
     return rest <= -0.5 && whole != kLeastSigned ? whole - 1 : whole;
 }
 
-std::u16string warningText(double number, double shown, double least, double greatest) {
-    const std::string general = " (" + generalText(number) + ')';
+constexpr std::u16string_view kInexact = u"inexact";
+
+// Empty if the integer is the number.
+std::u16string_view warningWord(double number, double shown, double least, double greatest) {
     if (number > greatest) {
-        return asciiText("overflow" + general);
+        return u"overflow";
     }
     if (number > 0.0 && number < 1.0) {
-        return asciiText("underflow" + general);
+        return u"underflow";
     }
     if (number < 0.0 && number > -1.0) {
-        return asciiText("negative underflow" + general);
+        return u"negative underflow";
     }
     if (number < least) {
-        return asciiText("negative overflow" + general);
+        return u"negative overflow";
     }
+    return number == shown ? u"" : kInexact;
+}
+
+std::u16string warningNumber(std::u16string_view word, double number) {
     constexpr unsigned kPlaces = 9;
-    return number == shown ? u"" : asciiText("inexact (" + fixedText(number, kPlaces) + ')');
+    const std::string text = word == kInexact ? fixedText(number, kPlaces) : generalText(number);
+    return asciiText(" (" + text + ')');
 }
 
 std::u16string digitsIn(int radix, std::uint32_t value, std::size_t leastDigits) {
@@ -85,13 +92,13 @@ std::u16string digitsIn(int radix, std::uint32_t value, std::size_t leastDigits)
 }  // namespace
 
 void DYXOutputDisplay::showInteger(std::u16string mantissa, const IntegerView& view) {
-    std::u16string warning = warningText(view.number, view.shown, view.least, view.greatest);
-    if (!warning.empty()) {
+    LineText text{.mantissa = std::move(mantissa), .exponent = std::u16string(view.baseName)};
+    text.statusWord = warningWord(view.number, view.shown, view.least, view.greatest);
+    if (!text.statusWord.empty()) {
+        text.statusRest = warningNumber(text.statusWord, view.number);
         setTextColor(errorColor());
     }
-    show({.mantissa = std::move(mantissa),
-          .exponent = std::u16string(view.baseName),
-          .status = std::move(warning)});
+    show(std::move(text));
 }
 
 void DYXOutputDisplay::setGroupedBaseTo(double number, const GroupedBase& base) {

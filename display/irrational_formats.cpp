@@ -94,7 +94,9 @@ bool DYXOutputDisplay::setIrrationalTo(double number) {
         const double quotient =
             irrational.isInverse ? number * irrational.constant : number / irrational.constant;
         if (auto text = recognise(irrational, quotient)) {
-            show({.mantissa = std::move(*text), .sign = signText(quotient), .status = exactStr()});
+            show({.mantissa = std::move(*text),
+                  .sign = signText(quotient),
+                  .statusWord = exactStr()});
             return true;
         }
     }
@@ -112,7 +114,7 @@ bool DYXOutputDisplay::setIrrationalFractionTo(double number) {
     }
     std::u16string text =
         mixedFractionText(integerText(static_cast<std::int64_t>(whole)), numerator, denominator);
-    show({.mantissa = std::move(text), .sign = signText(number), .status = exactStr()});
+    show({.mantissa = std::move(text), .sign = signText(number), .statusWord = exactStr()});
     return true;
 }
 

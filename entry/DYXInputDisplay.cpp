@@ -15,7 +15,7 @@ std::int32_t DYXInputDisplay::effectiveOutputMode() const {
 }
 
 std::u16string DYXInputDisplay::inputModeTitle() const {
-    return talvex::inputModeTitle(inputMode_);
+    return modeTitle(ModeTitle::input, inputMode_);
 }
 
 // A change of mode in mid-entry can leave cuts that don't fit the text.

@@ -1,5 +1,6 @@
 """Reads titles from the standard input, one on a line, and makes the given tables have just those.
-A title that is new is its own English translation, and is left open in other languages."""
+A title that is new is its own English translation, and is left open in other languages. With --check
+nothing is changed: it fails if an English table isn't so already."""
 import sys
 import xml.etree.ElementTree as ET
 
@@ -29,7 +30,15 @@ def update(path, titles):
         file.write(b"\n")
 
 
+def check(path, titles):
+    messages = ET.parse(path).getroot().iter("message")
+    table = {message.findtext("source"): message.findtext("translation") for message in messages}
+    if table != {title: title for title in titles}:
+        sys.exit(f"{path} differs: run scripts/update_titles")
+
+
 if __name__ == "__main__":
     wanted = sorted(set(sys.stdin.read().splitlines()))
-    for table in sys.argv[1:]:
-        update(table, wanted)
+    tables = [argument for argument in sys.argv[1:] if argument != "--check"]
+    for table in tables:
+        (update if tables == sys.argv[1:] else check)(table, wanted)

@@ -5,10 +5,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFile>
 #include <QTest>
 #include <QWindow>
-#include <QXmlStreamReader>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -26,34 +24,6 @@
 
 namespace talvex {
 namespace {
-
-// The table has what the program asks for, and nothing else: scripts/update_titles brings it there.
-TEST(Titles, HaveAnEnglishEntry) {
-    QFile table(QStringLiteral(TALVEX_RESOURCES "/titles_en.ts"));
-    ASSERT_TRUE(table.open(QIODevice::ReadOnly));
-    QXmlStreamReader reader(&table);
-    std::set<QString> titles;
-    std::set<QString> translations;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isStartElement() && reader.name() == QLatin1String("source")) {
-            titles.insert(reader.readElementText());
-        } else if (reader.isStartElement() && reader.name() == QLatin1String("translation")) {
-            translations.insert(reader.readElementText());
-        }
-    }
-    EXPECT_EQ(titles, translations);
-
-    HeadlessPlatform platform;
-    DYXWindowController controller(platform);
-    const CalculatorWindow window(controller);
-    const HelpWidget help(controller);
-    for (const std::u16string& title : platform.titlesAskedFor) {
-        EXPECT_EQ(titles.count(QString::fromStdU16String(title)), 1U)
-            << QString::fromStdU16String(title).toStdString();
-    }
-    EXPECT_GT(titles.size(), 300U);
-}
 
 class Window : public testing::Test {
   protected:

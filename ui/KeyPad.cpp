@@ -14,7 +14,7 @@ KeyPad::KeyPad(Platform& platform)
     for (const KeyRow& row : keyPadRows()) {
         panel_.keys.push_back(makeKey({.frame = keyFrame(row),
                                        .command = row.command,
-                                       .title = row.title,
+                                       .title = localizedTitle(row.title, platform),
                                        .hint = platform.localizedString(row.hint),
                                        .group = row.group,
                                        .keyClass = row.keyClass},
@@ -22,10 +22,9 @@ KeyPad::KeyPad(Platform& platform)
     }
     std::size_t place = 0;
     for (const DrawerKeyRow& row : drawerKeyRows()) {
-        const std::u16string title = platform.localizedString(row.title);
         panel_.keys.push_back(makeKey({.frame = drawerKeyFrame(place++),
                                        .command = {},
-                                       .title = title,
+                                       .title = localizedTitle(row.title, platform),
                                        .hint = platform.localizedString(row.hint),
                                        .group = KeyGroup::flat,
                                        .keyClass = KeyClass::drawer},

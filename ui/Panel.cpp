@@ -112,8 +112,12 @@ void addStatusField(NSView& view, DYXStatusLineTracker& tracker, const NSRect& f
     tracker.setStatusField(std::move(field));
 }
 
+std::u16string localizedTitle(std::u16string_view title, const BundlePort& titles) {
+    return title.empty() ? u"" : titles.localizedString(title);
+}
+
 Key makeKey(const KeyDescription& description, Platform& platform) {
-    const std::u16string title(description.title);
+    const std::u16string& title = description.title;
     const NSFont font{.name = u"Lucida Grande", .size = titleSize(title, description.group)};
     Key key{.button = {}, .group = description.group};
     if (description.keyClass == KeyClass::key) {
@@ -152,7 +156,7 @@ Panel makeMemoryPanel(Platform& platform) {
                {.frame = sideKeyFrame(row.row, kMargin + row.column * kPitch,
                                       row.columnSpan * kPitch - kKeyGap),
                 .command = row.command,
-                .title = row.title,
+                .title = localizedTitle(row.title, platform),
                 .hint = platform.localizedString(row.hint),
                 .group = row.group,
                 .keyClass = row.keyClass},
@@ -186,7 +190,7 @@ Panel makeConstantsPanel(Platform& platform) {
         addKey(panel,
                {.frame = sideKeyFrame(number % kSideRows, left, kEdges.at(column) - left - kKeyGap),
                 .command = row.command,
-                .title = row.title,
+                .title = std::u16string(row.title),
                 .hint = constantHint(row, platform),
                 .group = KeyGroup::digit},
                NSViewMaxXMargin, platform);
@@ -204,7 +208,7 @@ Panel makeFunctionsPanel(Platform& platform) {
                {.frame = wideKeyFrame(row.column, row.columnSpan, kWideMargin,
                                       kEdges.at(row.row) - kKeyGap - kKeyHeight),
                 .command = row.command,
-                .title = row.title,
+                .title = localizedTitle(row.title, platform),
                 .hint = platform.localizedString(row.hint)},
                NSViewNotSizable, platform);
     }
@@ -232,7 +236,7 @@ std::vector<Key> unitKeys(const UnitPage& page, Platform& platform) {
                                                       kPageHeight - kPageMargin - kKeyHeight -
                                                           rowOffset(number / kColumns)),
                                 .command = command,
-                                .title = unit.title,
+                                .title = std::u16string(unit.title),
                                 .hint = platform.localizedString(unit.name)},
                                platform));
         keys.back().button->setAutoresizingMask(NSViewMinYMargin);

@@ -26,11 +26,14 @@ struct Key {
 struct KeyDescription {
     NSRect frame;
     std::u16string_view command;
-    std::u16string_view title;  // simple TeX
-    std::u16string hint;        // simple TeX
+    std::u16string title;  // simple TeX
+    std::u16string hint;   // simple TeX
     KeyGroup group = KeyGroup::function;
     KeyClass keyClass = KeyClass::key;
 };
+
+// The title of a key in the user's language; a key with an image has none.
+std::u16string localizedTitle(std::u16string_view title, const BundlePort& titles);
 
 // The record of a key: of a command key its title is rich text, of the others it's plain.
 Key makeKey(const KeyDescription& description, Platform& platform);

@@ -71,7 +71,7 @@ std::shared_ptr<NSButton> makeTitleBarButton(double fromRight, const std::u16str
 
 }  // namespace
 
-HelpViews::HelpViews()
+HelpViews::HelpViews(const BundlePort& titles)
     : matrix(std::make_shared<NSMatrix>(NSRect{}, NSMatrixMode::radio,
                                         static_cast<int>(helpPages().size()), 1)) {
     int row = 0;
@@ -82,7 +82,7 @@ HelpViews::HelpViews()
         matrix->setCellAt(row++, 0, std::move(cell));
     }
     matrix->selectCellAtRowColumn(0, 0);
-    window.setTitle(u"Talvex Help");
+    window.setTitle(titles.localizedString(u"Talvex Help"));
     window.setFrame({.width = kHelpSize.width, .height = kHelpSize.height});
 }
 
@@ -104,7 +104,8 @@ WindowViews::WindowViews(Platform& platform, const HotKeys& hotKeys)
       memoryPanel(makeMemoryPanel(platform)),
       constantsPanel(makeConstantsPanel(platform)),
       functionsPanel(makeFunctionsPanel(platform)),
-      conversionPanel(makeConversionPanel(platform, hotKeys)) {
+      conversionPanel(makeConversionPanel(platform, hotKeys)),
+      help(platform) {
     displayView->setAutoresizingMask(NSViewWidthSizable | NSViewMinYMargin);
     contentView->addSubview(displayView);
     contentView->addSubview(keyPad.view());

@@ -14,7 +14,7 @@ namespace talvex {
 
 // The records of the help window: the matrix of its pages and the view that shows one.
 struct HelpViews {
-    HelpViews();
+    explicit HelpViews(const BundlePort& titles);
 
     NSWindow window;
     std::shared_ptr<NSMatrix> matrix;

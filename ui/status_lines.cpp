@@ -15,9 +15,9 @@ namespace {
 
 constexpr unsigned kValueDigits = 9;
 
-std::u16string valueText(double value) {
+std::u16string valueText(double value, const BundlePort& titles) {
     if (std::isnan(value)) {
-        return DYXnanString(value);
+        return titles.localizedString(DYXnanString(value));
     }
     if (std::isinf(value)) {
         return value < 0.0 ? u"-inf" : u"inf";
@@ -50,7 +50,8 @@ std::optional<NSAttributedString> DYXWindowController::statusLineForView(const N
         const auto number = static_cast<unsigned>(10 * (character(2) - '0') + (character(3) - '0'));
         if (number < mem().size()) {
             return ZUStringExtensions::simpleTexSingleLine(
-                u"M_{" + asciiText(std::to_string(number)) + u"} = " + valueText(mem()[number]));
+                u"M_{" + asciiText(std::to_string(number)) + u"} = " +
+                valueText(mem()[number], platform()));
         }
     }
     if (command.category == fourCC("data") && character(0) == 'E' &&
