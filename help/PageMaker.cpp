@@ -156,6 +156,9 @@ std::string PageMaker::expand(std::string_view directive) {
     if (name == "hot keys") {
         return hotKeysTable(caps_);
     }
+    if (name == "untyped keys") {
+        return untypedKeys(caps_);
+    }
     if (name == "keyboard") {
         return keyboardPicture(caps_);
     }

@@ -44,6 +44,8 @@ std::string unitsTables(const KeyCaps& caps);
 // The keys of a place: "key pad" or "drawer".
 std::string functionsTable(const KeyCaps& caps, std::string_view place);
 std::string hotKeysTable(const KeyCaps& caps);
+// The keys of the key pad that no key of the keyboard presses.
+std::string untypedKeys(const KeyCaps& caps);
 std::string keyboardPicture(const KeyCaps& caps);
 
 // The settings of an example, as "FRC" or "DEG HEX digits=2"; false if there is such a word.

@@ -7,6 +7,7 @@
 #include "core/function_tables.h"
 #include "help/PageMaker.h"
 #include "help/function_notes.h"
+#include "platform/NSEvent.h"
 #include "ui/panel_tables.h"
 #include "ui/printed_number.h"
 
@@ -48,7 +49,14 @@ bool isOnPad(const KeyCaps& caps, const KeyCaps::Cap& cap) {
     return static_cast<std::size_t>(&cap - caps.all().data()) < rows.size();
 }
 
+// The keys are told in signs, of which Clear and the backspace share one.
 std::u16string hotKeyText(const KeyCaps& caps, const KeyCaps::Cap& cap) {
+    const Comand command = commandFromString(cap.command);
+    for (const HotKey& row : caps.hotKeys().rows()) {
+        if (row.command == command && row.key == NSClearLineFunctionKey) {
+            return u"[Clear]";
+        }
+    }
     return caps.hotKeys().hotKeyStringForCommandString(cap.command);
 }
 
@@ -106,6 +114,17 @@ std::string hotKeysTable(const KeyCaps& caps) {
         }
     }
     return table + "</table>\n";
+}
+
+std::string untypedKeys(const KeyCaps& caps) {
+    std::string keys;
+    for (const KeyRow& row : keyPadRows()) {
+        const KeyCaps::Cap* const cap = caps.ofCommand(row.command);
+        if (row.keyClass == KeyClass::key && hotKeyText(caps, *cap).empty()) {
+            keys += (keys.empty() ? "" : " ") + keyCap(cap->title);
+        }
+    }
+    return keys;
 }
 
 // A picture of a keyboard: on each key what it does by itself.
