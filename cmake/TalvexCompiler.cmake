@@ -15,7 +15,7 @@ add_library(talvex_compiler INTERFACE)
 
 target_compile_options(talvex_compiler INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
-    -Wnon-virtual-dtor -Woverloaded-virtual -Wzero-as-null-pointer-constant -Werror
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wzero-as-null-pointer-constant
     # The same bits everywhere: no fused multiply-add, and no rewriting of pow(2, x) into exp2(x).
     -ffp-contract=off -fno-builtin-pow)
 
