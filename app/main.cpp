@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "command_line.h"
 #include "qt/CalculatorWindow.h"
 #include "qt/HelpWindow.h"
 #include "qt/QtPlatform.h"
@@ -25,6 +26,9 @@ void tellOfMissingScreen(QtMsgType type, const QMessageLogContext& /*context*/,
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (const auto status = talvex::answerCommandLine({argv, static_cast<std::size_t>(argc)})) {
+        return *status;
+    }
     // A drawer needs to know where the window stands, which only X11 tells.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");

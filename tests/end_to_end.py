@@ -4,6 +4,7 @@ a screen reader does. Usage: end_to_end.py PROGRAM, within a D-Bus session of it
 import contextlib
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -19,6 +20,8 @@ from gi.repository import Atspi  # noqa: E402  the version comes first
 
 PROGRAM = sys.argv.pop()
 BUTTON_ROLES = ("push button", "check box", "toggle button")
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+MANUAL = (ROOT / "packaging/talvex.1.in").read_text().replace("\\", "")
 THIN = "\u2009"
 CARET_ON_A_GERMAN_KEYBOARD = 49  # a dead key
 
@@ -270,13 +273,22 @@ class EndToEnd(unittest.TestCase):
         self.calculator.click("open or close the drawer of constants",
                               "open or close the drawer of unit conversions")
 
-    def test_without_a_screen_it_says_so_and_ends(self):
-        for display in ("", ":7777"):
-            result = subprocess.run([PROGRAM], env={**os.environ, "DISPLAY": display},
-                                    capture_output=True, timeout=20)
-            self.assertEqual(result.returncode, 1)
-            self.assertEqual(result.stderr,
-                             b"talvex: there is no screen to open a window on\n")
+    def test_without_a_screen_it_answers_options_or_says_so(self):
+        no_screen = "talvex: there is no screen to open a window on\n"
+        for options, status, answer, complaint in (
+                ([], 1, "", no_screen),
+                (["-display", ":7777"], 1, "", no_screen),
+                (["-style=fusion", "--platform", "xcb", "-reverse"], 1, "", no_screen),
+                (["-style", "fusion", "--version"], 0, r"talvex \d[.\d]*\n", ""),
+                (["--help"], 0, r"Usage: talvex(.*\n)+", ""),
+                (["-reverse", "--nonsense"], 2, "", r"talvex: .*--nonsense.*\n")):
+            result = subprocess.run([PROGRAM, *options], env={**os.environ, "DISPLAY": ""},
+                                    capture_output=True, text=True, timeout=20)
+            self.assertEqual(result.returncode, status, options)
+            self.assertRegex(result.stdout, f"^{answer}$")
+            self.assertRegex(result.stderr, f"^{complaint}$")
+            for option in re.findall(r"^  (-[-a-z, ]*[a-z])", result.stdout, re.MULTILINE):
+                self.assertIn(option, MANUAL)
 
     def test_four_lines_show_the_stack(self):
         self.calculator.click("show the registers Y, Z and T")
