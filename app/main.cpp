@@ -9,6 +9,7 @@
 #include "qt/CalculatorWindow.h"
 #include "qt/HelpWindow.h"
 #include "qt/QtPlatform.h"
+#include "qt/window_icon.h"
 #include "termination_signals.h"
 #include "ui/DYXWindowController.h"
 
@@ -55,6 +56,7 @@ int main(int argc, char** argv) {
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, terminate,
                      Qt::DirectConnection);
     window.show();
+    talvex::giveIconAfterFirstFrame(*window.windowHandle());
     if (controller.views().help.window.isVisible()) {
         // Once the calculator is there.
         QTimer::singleShot(0, &window, [&help, &window] { help.showBehind(window); });
