@@ -102,10 +102,13 @@ class EndToEnd(unittest.TestCase):
         wait_until(lambda: self.calculator.line("X") == "X: " + text,
                    f"X to be {text!r}, it is {self.calculator.line('X')!r}")
 
+    @staticmethod
+    def windows():
+        search = ["xdotool", "search", "--onlyvisible", "--class", "talvex"]
+        return subprocess.check_output(search).split()
+
     def wait_for_windows(self, count):
-        windows = ["xdotool", "search", "--onlyvisible", "--class", "talvex"]
-        wait_until(lambda: len(subprocess.check_output(windows).split()) == count,
-                   f"{count} windows")
+        wait_until(lambda: len(self.windows()) == count, f"{count} windows")
 
     def choose_input_mode(self, number):
         self.calculator.click("input mode")
@@ -209,6 +212,9 @@ class EndToEnd(unittest.TestCase):
         self.calculator = Calculator()
         self.wait_for_windows(2)
         time.sleep(0.5)  # for the window manager to settle whose the keyboard is
+        for window in self.windows():
+            self.assertIn(b"Icon (64 x 64)",
+                          subprocess.check_output(["xprop", "-id", window, "_NET_WM_ICON"]))
         xdotool("key", "7")
         self.expect_x("7")
         xdotool("key", "F1")
@@ -222,8 +228,7 @@ class EndToEnd(unittest.TestCase):
         def xrandr(*arguments):
             subprocess.run(["xrandr", *arguments], check=True)
 
-        window = subprocess.check_output(["xdotool", "search", "--onlyvisible", "--class", "talvex"])
-        xdotool("windowmove", int(window.split()[0]), 600, 500)
+        xdotool("windowmove", int(self.windows()[0]), 600, 500)
         wait_until(lambda: place() > (800, 600), "the window to move away")
         xrandr("--newmode", "small", *"38.25 800 832 912 1024 600 603 607 624".split())
         xrandr("--addmode", "screen", "small")
