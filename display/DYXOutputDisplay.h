@@ -87,7 +87,8 @@ class DYXOutputDisplay {
 
     void setLabelString(std::u16string label);
     void setLabelFieldHidden(bool hidden);
-    // Takes all slots off the screen; they go on holding the line's text.
+    // Takes all slots but the status off the screen, or puts them back; hidden ones go on holding
+    // the line's text.
     void setFieldsHidden(bool hidden);
 
     // How the user's language says a word that the line shows: a status, an error value, a mode.

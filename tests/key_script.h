@@ -8,14 +8,12 @@
 
 namespace talvex {
 
-// UTF-8, for messages and for expected texts that can be read.
-
 // A calculator that is driven as a manual is read: press("1 2 ENTER 3 +").
 class KeyScript {
   public:
-    // Each word is a key: a digit, a sign, or the name of the key; "M05" and "R05", "S05" are the
-    // register keys and the direct recall and store. A word of four or more letters that is no
-    // key is an error of the script and throws.
+    // Each word is the name of a key or, of one character, a digit; "M05" is a register key, "R05",
+    // "S05" and "+05" recall, store and add to one directly. Any other word is an error of the
+    // script and throws.
     void press(std::string_view keys);
     // A command as a button carries it, for codes that have no name here: "unitSQR ".
     void run(std::string_view command);

@@ -36,6 +36,15 @@ class Window : public testing::Test {
         controller.toggleDrawer(drawer(name));
         ASSERT_TRUE(QTest::qWaitFor([&] { return drawer(name).state() == NSDrawerOpenState; }));
     }
+    DrawerWidget* widgetOf(const NSDrawer& record) {
+        for (QWidget* const each : window.findChildren<QWidget*>()) {
+            auto* const widget = dynamic_cast<DrawerWidget*>(each);
+            if (widget != nullptr && &widget->record() == &record) {
+                return widget;
+            }
+        }
+        return nullptr;
+    }
     QAbstractButton* button(const QString& name) {
         for (auto* const each : window.findChildren<QAbstractButton*>()) {
             if (each->accessibleName() == name && each->isVisible()) {
@@ -110,22 +119,19 @@ TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
         SCOPED_TRACE(static_cast<int>(row.name));
         record.setContentSize(record.maxContentSize());
         open(row.name);
-        const auto drawers = window.findChildren<DrawerWidget*>();
-        const auto widget =
-            std::find_if(drawers.begin(), drawers.end(),
-                         [&](const DrawerWidget* each) { return &each->record() == &record; });
-        ASSERT_NE(widget, drawers.end());
+        DrawerWidget* const widget = widgetOf(record);
+        ASSERT_NE(widget, nullptr);
         EXPECT_TRUE(QTest::qWaitFor([&] {
-            const QRect shown = (*widget)->visibleRect();
+            const QRect shown = widget->visibleRect();
             return (record.isLevel() ? shown.height() : shown.width()) ==
                    std::lround(8.0 + (record.isLevel() ? record.contentSize().height
                                                        : record.contentSize().width));
         }));
-        const QPoint grip = outerEdge((*widget)->visibleRect(), record.edge());
+        const QPoint grip = outerEdge(widget->visibleRect(), record.edge());
         const auto mouse = [&](QEvent::Type type, const QPoint& place, Qt::MouseButtons buttons) {
-            QMouseEvent event(type, (*widget)->mapFrom(&window, place), window.mapToGlobal(place),
+            QMouseEvent event(type, widget->mapFrom(&window, place), window.mapToGlobal(place),
                               Qt::LeftButton, buttons, {});
-            QApplication::sendEvent(*widget, &event);
+            QApplication::sendEvent(widget, &event);
         };
         platform.mouseButtons = 1;
         mouse(QEvent::MouseButtonPress, grip, Qt::LeftButton);
@@ -137,7 +143,7 @@ TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
         EXPECT_EQ(record.contentSize().height, row.rest.height);
         controller.toggleDrawer(record);
         EXPECT_TRUE(QTest::qWaitFor([&] { return record.state() == NSDrawerClosedState; }));
-        EXPECT_TRUE((*widget)->visibleRect().isEmpty());
+        EXPECT_TRUE(widget->visibleRect().isEmpty());
     }
 }
 
