@@ -20,8 +20,8 @@ namespace talvex {
 namespace {
 
 constexpr double kFrame = 16e-3;
-constexpr std::array<double, 4> kHardNumbers{-123456.7890123456, 1.0 / 7.123456789, 98.76543210987,
-                                             -3.000000123456789e-5};
+constexpr auto kHardNumbers = std::to_array<double>(
+    {-123456.7890123456, 1.0 / 7.123456789, 98.76543210987, -3.000000123456789e-5});
 
 double secondsSince(std::chrono::steady_clock::time_point start) {
     const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;

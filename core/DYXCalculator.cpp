@@ -17,7 +17,7 @@ struct KeptModifiers {
     bool store = false;
 };
 
-constexpr std::array<KeptModifiers, 8> kKeptModifiers{{
+constexpr auto kKeptModifiers = std::to_array<KeptModifiers>({
     {.category = fourCC("modi"), .action = fourCC("ARC "), .inverseAndHyperbolic = true},
     {.category = fourCC("modi"), .action = fourCC("HYP "), .inverseAndHyperbolic = true},
     {.category = fourCC("memo"), .action = fourCC("RCL "), .recall = true},
@@ -26,7 +26,7 @@ constexpr std::array<KeptModifiers, 8> kKeptModifiers{{
     {.category = fourCC("memo"), .action = fourCC("STO-"), .store = true},
     {.category = fourCC("memo"), .action = fourCC("STO*"), .store = true},
     {.category = fourCC("memo"), .action = fourCC("STO/"), .store = true},
-}};
+});
 
 KeptModifiers keptBy(const Comand& command) {
     for (const KeptModifiers& row : kKeptModifiers) {
@@ -42,12 +42,12 @@ struct StackRow {
     void (DYXStack::*move)();
 };
 
-constexpr std::array<StackRow, 4> kStackMoves{{
+constexpr auto kStackMoves = std::to_array<StackRow>({
     {fourCC("LSTX"), &DYXStack::recallLastX},
     {fourCC("ROLD"), &DYXStack::rollDown},
     {fourCC("ROLU"), &DYXStack::rollUp},
     {fourCC("X<>Y"), &DYXStack::swapXY},
-}};
+});
 
 }  // namespace
 
@@ -83,7 +83,7 @@ DisplayFields DYXCalculator::plainFields() {
 }
 
 void DYXCalculator::doCommand(const Comand& command) {
-    static constexpr std::array<HandlerRow, 11> kCategories{{
+    static constexpr auto kCategories = std::to_array<HandlerRow>({
         {fourCC("bina"), &DYXCalculator::doCommandBinary},
         {fourCC("cons"), &DYXCalculator::doCommandConstant},
         {fourCC("conv"), &DYXCalculator::doCommandConvert},
@@ -95,7 +95,7 @@ void DYXCalculator::doCommand(const Comand& command) {
         {fourCC("stac"), &DYXCalculator::doCommandStack},
         {fourCC("trin"), &DYXCalculator::doCommandTrinary},
         {fourCC("unit"), &DYXCalculator::doCommandUnitary},
-    }};
+    });
     runHandler(kCategories, command.category, command);
     roundMonetaryX();
     updateDisplay();

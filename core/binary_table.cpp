@@ -13,7 +13,7 @@ namespace talvex {
 namespace {
 
 // "^   " and "~   " follow the setting of the operand order; "x^y " and "y~x " are the fixed forms.
-constexpr std::array<BinaryRow, 23> kBinaries{{
+constexpr auto kBinaries = std::to_array<BinaryRow>({
     {.action = fourCC("-   "), .function = minus},
     {.action = fourCC("+   "), .function = plus},
     {.action = fourCC("/   "), .function = divide},
@@ -37,8 +37,8 @@ constexpr std::array<BinaryRow, 23> kBinaries{{
     {.action = fourCC("XOR "), .function = xorf},
     {.action = fourCC("y<<x"), .function = shiftleftf},
     {.action = fourCC("y>>x"), .function = shiftrightf},
-}};
-static_assert(hasUniqueActions(kBinaries));
+});
+static_assert(hasUniqueActions(kBinaries) && hasFunctions(kBinaries));
 
 }  // namespace
 

@@ -9,7 +9,7 @@ namespace {
 
 // Mathematical constants to the nearest double; physical ones in SI units, from the 2006 set of
 // recommended values (the molar gas constant from the 2010 set).
-constexpr std::array<ConstantRow, 48> kConstants{{
+constexpr auto kConstants = std::to_array<ConstantRow>({
     {fourCC("PI  "), 3.141592653589793},       // pi
     {fourCC("2PI "), 6.283185307179586},       // 2 pi
     {fourCC("4PI "), 12.566370614359172},      // 4 pi
@@ -58,7 +58,7 @@ constexpr std::array<ConstantRow, 48> kConstants{{
     {fourCC("phi0"), 2.067833667e-15},         // magnetic flux quantum
     {fourCC("qcon"), 7.7480917004e-05},        // conductance quantum
     {fourCC("iqcn"), 12906.4037787},           // inverse conductance quantum
-}};
+});
 static_assert(hasUniqueActions(kConstants));
 
 }  // namespace

@@ -31,7 +31,7 @@ constexpr UnitGroup kTemperature{.code = fourCC("temp"), .index = 12};
 // light, frequencies of an energy through Planck's constant, "Tesl" through the Bohr magneton,
 // "Kelv" through Boltzmann's constant, "eV  " through the elementary charge. Among the angles
 // "hour", "mins" and "secs" measure time, and ' and " are the minute and second of arc.
-constexpr std::array<ConverterRow, 175> kConverters{{
+constexpr auto kConverters = std::to_array<ConverterRow>({
     {.group = kPrefix, .action = fourCC("one "), .factor = 1.0},
     {.group = kPrefix, .action = fourCC("atto"), .factor = 1e-18},
     {.group = kPrefix, .action = fourCC("femt"), .factor = 1e-15},
@@ -221,7 +221,7 @@ constexpr std::array<ConverterRow, 175> kConverters{{
     {.group = kTemperature, .action = fourCC("TypR"), .function = DYXConvertTemperatureTypeR},
     {.group = kTemperature, .action = fourCC("TypS"), .function = DYXConvertTemperatureTypeS},
     {.group = kTemperature, .action = fourCC("TypT"), .function = DYXConvertTemperatureTypeT},
-}};
+});
 
 consteval bool hasUniqueUnits() {
     for (std::size_t first = 0; first < kConverters.size(); ++first) {

@@ -10,7 +10,7 @@
 namespace talvex {
 
 void DYXCalculator::doCommandDataEntry(const Comand& command) {
-    static constexpr std::array<HandlerRow, 8> kActions{{
+    static constexpr auto kActions = std::to_array<HandlerRow>({
         {fourCC(".   "), &DYXCalculator::doCommandDataEntryDecimal},
         {fourCC("BACK"), &DYXCalculator::doCommandDataEntryBackspace},
         {fourCC("EEX "), &DYXCalculator::doCommandDataEntryEEX},
@@ -19,7 +19,7 @@ void DYXCalculator::doCommandDataEntry(const Comand& command) {
         {fourCC("CLR "), &DYXCalculator::doCommandDataEntryClear},
         {fourCC("CLRG"), &DYXCalculator::doCommandDataEntryClearStack},
         {fourCC("CLAL"), &DYXCalculator::doCommandDataEntryClearAll},
-    }};
+    });
     if (runHandler(kActions, command.action, command)) {
         return;
     }

@@ -15,13 +15,13 @@ struct StoreOperation {
     double (*newValue)(double memory, double x);
 };
 
-constexpr std::array<StoreOperation, 5> kStoreOperations{{
+constexpr auto kStoreOperations = std::to_array<StoreOperation>({
     {kPlainStore, fourCC("STO "), 'S', [](double /*memory*/, double x) { return x; }},
     {2, fourCC("STO+"), '+', [](double memory, double x) { return memory + x; }},
     {3, fourCC("STO-"), '-', [](double memory, double x) { return memory - x; }},
     {4, fourCC("STO*"), '*', [](double memory, double x) { return memory * x; }},
     {5, fourCC("STO/"), '/', [](double memory, double x) { return memory / x; }},
-}};
+});
 
 constexpr unsigned kRegisterKeys = 20;
 constexpr char kDirectRecallPrefix = 'R';

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <variant>
 
+// What the compiler checks of the tables.
 namespace talvex {
 
 // Whether no two rows of a table have the same action, so that no row hides another.
@@ -12,6 +14,17 @@ consteval bool hasUniqueActions(const Table& table) {
             if (table[first].action == table[second].action) {
                 return false;
             }
+        }
+    }
+    return true;
+}
+
+// Whether every row of a table of functions has its function.
+template <class Table>
+consteval bool hasFunctions(const Table& table) {
+    for (const auto& row : table) {
+        if (std::visit([](auto function) { return function == nullptr; }, row.function)) {
+            return false;
         }
     }
     return true;

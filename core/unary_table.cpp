@@ -16,7 +16,7 @@ namespace {
 
 // Each trigonometric family has a generic row, which the modifiers turn into one of the others, and
 // four direct rows. The C library's functions stand in lambdas since they are overloaded.
-constexpr std::array<UnaryRow, 62> kUnitaries{{
+constexpr auto kUnitaries = std::to_array<UnaryRow>({
     {.action = fourCC("GSIN"), .function = DYXgensin},
     {.action = fourCC("SIN "), .function = DYXsin},
     {.action = fourCC("ASIN"), .function = DYXasin},
@@ -79,8 +79,8 @@ constexpr std::array<UnaryRow, 62> kUnitaries{{
     {.action = fourCC("SH1L"), .function = shift1leftf},
     {.action = fourCC("SH1R"), .function = shift1rightf},
     {.action = fourCC("NOT "), .function = notf},
-}};
-static_assert(hasUniqueActions(kUnitaries));
+});
+static_assert(hasUniqueActions(kUnitaries) && hasFunctions(kUnitaries));
 
 }  // namespace
 

@@ -53,7 +53,7 @@ void DYXOutputDisplay::syncToDisplay(const DYXOutputDisplay& line) {
 
 const DYXOutputDisplay::ModeRow& DYXOutputDisplay::rowOfMode(std::int32_t mode) {
     using Line = DYXOutputDisplay;
-    static constexpr std::array<ModeRow, mode::count> kModes{{
+    static constexpr auto kModes = tableOfModes<ModeRow>({
         {.formatter = &Line::setFixedTo, .irrationals = Irrationals::ifDisplayed},
         {.formatter = &Line::setScientificTo, .irrationals = Irrationals::ifDisplayed},
         {.formatter = &Line::setEngineeringTo, .irrationals = Irrationals::ifDisplayed},
@@ -67,7 +67,7 @@ const DYXOutputDisplay::ModeRow& DYXOutputDisplay::rowOfMode(std::int32_t mode) 
         {.formatter = &Line::setOctalTo},
         {.formatter = &Line::setBinaryTo},
         {.formatter = &Line::setFixedTo, .irrationals = Irrationals::always, .triesFraction = true},
-    }};
+    });
     return kModes.at(static_cast<std::size_t>(mode));
 }
 

@@ -7,9 +7,9 @@
 namespace talvex {
 namespace {
 
-constexpr std::array<std::u16string_view, mode::count> kNames{
-    u"FIX", u"SCI", u"ENG", u"MON", u"FRC", u"CAR", u"HMS",
-    u"DMS", u"HEX", u"DEC", u"OCT", u"BIN", u"IRR"};
+constexpr auto kNames =
+    tableOfModes<std::u16string_view>({u"FIX", u"SCI", u"ENG", u"MON", u"FRC", u"CAR", u"HMS",
+                                       u"DMS", u"HEX", u"DEC", u"OCT", u"BIN", u"IRR"});
 
 constexpr std::u16string_view kUnknown = u"???";
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -26,6 +28,14 @@ inline constexpr std::int32_t count = 13;
 
 // Whether the number is that of a mode; saved values may be anything.
 constexpr bool isDisplayMode(std::int32_t number) { return number >= 0 && number < mode::count; }
+
+// A table with a row for each mode, in the order of their numbers. One row more or less doesn't
+// compile.
+template <class Row, std::size_t Count>
+consteval std::array<Row, Count> tableOfModes(const Row (&rows)[Count]) {
+    static_assert(Count == mode::count);
+    return std::to_array(rows);
+}
 
 // HEX, DEC, OCT and BIN.
 constexpr bool isIntegerMode(std::int32_t number) {

@@ -24,13 +24,13 @@ struct Irrational {
 };
 
 // In the order of the tries.
-constexpr std::array<Irrational, 5> kIrrationals{{
+constexpr auto kIrrationals = std::to_array<Irrational>({
     {.constant = kPi, .symbol = u"\u03C0"},
     {.constant = 1.4142135623730951, .symbol = u"\u221A2"},
     {.constant = 1.7320508075688772, .symbol = u"\u221A3"},
     {.constant = 2.718281828459045, .symbol = u"e"},
     {.constant = kPi, .symbol = u"\u03C0", .isInverse = true},
-}};
+});
 
 // A magnitude as whole + numerator/denominator.
 struct MixedFraction {

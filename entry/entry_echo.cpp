@@ -51,8 +51,8 @@ void DYXInputDisplay::echoFractionOver(std::u16string_view defaultDenominator) {
 void DYXInputDisplay::updateFraction() { echoFractionOver(u"1"); }
 
 void DYXInputDisplay::updateCarpentry() {
-    static constexpr std::array<std::u16string_view, 10> kDenominators{
-        u"1", u"2", u"4", u"8", u"16", u"32", u"64", u"128", u"256", u"512"};
+    static constexpr auto kDenominators = std::to_array<std::u16string_view>(
+        {u"1", u"2", u"4", u"8", u"16", u"32", u"64", u"128", u"256", u"512"});
     echoFractionOver(digits() < kDenominators.size() ? kDenominators.at(digits())
                                                      : std::u16string_view());
 }

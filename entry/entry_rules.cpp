@@ -100,9 +100,9 @@ struct DYXInputDisplay::RuleTables {
                                     .setToDecimal = &Line::setToDecimalScientific,
                                     .value = &Line::ScientificValue,
                                     .echo = &Line::updateScientific};
-    static constexpr std::array<const Rules*, mode::count> kRules{
-        &kScientific, &kScientific,  &kScientific, &kMonetary, &kFraction, &kCarpentry, &kHours,
-        &kDegrees,    &kHexadecimal, &kDecimal,    &kOctal,    &kBinary,   &kScientific};
+    static constexpr auto kRules = tableOfModes<const Rules*>(
+        {&kScientific, &kScientific, &kScientific, &kMonetary, &kFraction, &kCarpentry, &kHours,
+         &kDegrees, &kHexadecimal, &kDecimal, &kOctal, &kBinary, &kScientific});
 };
 
 const DYXInputDisplay::Rules& DYXInputDisplay::rulesOf(std::int32_t mode) {

@@ -112,11 +112,11 @@ double quotientBy(const std::u16string& symbol, double number) {
         std::u16string_view symbol;
         double constant;
     };
-    constexpr std::array<Row, 5> kRows{{{u"", 1.0},
-                                        {u"\u03C0", kPi},
-                                        {u"\u221A2", 1.4142135623730951},
-                                        {u"\u221A3", 1.7320508075688772},
-                                        {u"e", 2.718281828459045}}};
+    constexpr auto kRows = std::to_array<Row>({{u"", 1.0},
+                                               {u"\u03C0", kPi},
+                                               {u"\u221A2", 1.4142135623730951},
+                                               {u"\u221A3", 1.7320508075688772},
+                                               {u"e", 2.718281828459045}});
     for (const Row& row : kRows) {
         if (row.symbol == symbol) {
             return number / row.constant;
@@ -196,7 +196,8 @@ void checkText(const DYXOutputDisplay& line, double number) {
 }
 
 void run(FuzzInput& input) {
-    constexpr std::array<std::u16string_view, 5> kSeparators{u"", u"\u2009", u" ", u"\u2219", u"_"};
+    constexpr auto kSeparators =
+        std::to_array<std::u16string_view>({u"", u"\u2009", u" ", u"\u2219", u"_"});
     const auto separator = [&] {
         return std::u16string(kSeparators.at(input.take<std::uint8_t>() % kSeparators.size()));
     };

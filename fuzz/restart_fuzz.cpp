@@ -62,8 +62,8 @@ PropertyValue anyValue(FuzzInput& input) {
 }
 
 PropertyDictionary anyProperties(FuzzInput& input) {
-    constexpr std::array<std::string_view, 5> kOldKeys{"windowIsBig", "memKeysWasOpen", "helpFame",
-                                                       "showStatusLines", "unknown"};
+    constexpr auto kOldKeys = std::to_array<std::string_view>(
+        {"windowIsBig", "memKeysWasOpen", "helpFame", "showStatusLines", "unknown"});
     PropertyDictionary properties = propertiesOf({});
     for (int count = input.take<std::uint8_t>() % 24; count > 0; --count) {
         const std::size_t place =

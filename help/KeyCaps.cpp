@@ -12,7 +12,7 @@ namespace talvex {
 namespace {
 
 // Keys that show a picture in place of a title.
-constexpr std::array<std::pair<std::u16string_view, std::u16string_view>, 9> kPictures{{
+constexpr auto kPictures = std::to_array<std::pair<std::u16string_view, std::u16string_view>>({
     {u"dataE-03", u"10^{\u22123}"},
     {u"dataE-06", u"10^{\u22126}"},
     {u"dataE-09", u"10^{\u22129}"},
@@ -22,7 +22,7 @@ constexpr std::array<std::pair<std::u16string_view, std::u16string_view>, 9> kPi
     {u"bina^   ", u"y^x"},
     {u"bina~   ", u"log_{y}x"},
     {u"data.   ", u"."},
-}};
+});
 
 std::u16string pictureOf(std::u16string_view command) {
     for (const auto& [picture, tex] : kPictures) {

@@ -5,7 +5,7 @@
 namespace talvex {
 namespace {
 
-constexpr std::array<FunctionNote, 64> kNotes{{
+constexpr auto kNotes = std::to_array<FunctionNote>({
     {u"unitGSIN", u"any angle; INV: \u22121 to 1; INV HYP: any", u"trig error"},
     {u"unitGCOS", u"any angle; INV: \u22121 to 1; INV HYP: from 1",
      u"trig error, hyperbolic error"},
@@ -74,7 +74,7 @@ constexpr std::array<FunctionNote, 64> kNotes{{
     {u"nullRAND", u"from 0 to 1, both included", u""},
     {u"modiARC ", u"lights until the next key", u""},
     {u"modiHYP ", u"lights until the next key", u""},
-}};
+});
 
 }  // namespace
 

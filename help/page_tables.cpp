@@ -129,8 +129,8 @@ std::string untypedKeys(const KeyCaps& caps) {
 
 // A picture of a keyboard: on each key what it does by itself.
 std::string keyboardPicture(const KeyCaps& caps) {
-    static constexpr std::array<std::u16string_view, 4> kRows{u"`1234567890-=", u"qwertyuiop[]\\",
-                                                              u"asdfghjkl;'", u"zxcvbnm,./"};
+    static constexpr auto kRows = std::to_array<std::u16string_view>(
+        {u"`1234567890-=", u"qwertyuiop[]\\", u"asdfghjkl;'", u"zxcvbnm,./"});
     std::string picture;
     int indent = 0;
     for (const std::u16string_view keys : kRows) {

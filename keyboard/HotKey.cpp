@@ -32,7 +32,7 @@ bool applies(const HotKey& row, const HotKeyState& state) {
     return false;
 }
 
-constexpr std::array<std::pair<char16_t, char16_t>, 13> kShownKeys{{
+constexpr auto kShownKeys = std::to_array<std::pair<char16_t, char16_t>>({
     {u'\x03', u'\u2324'},
     {u'\t', u'\u21E5'},
     {u'\r', u'\u23CE'},
@@ -46,17 +46,17 @@ constexpr std::array<std::pair<char16_t, char16_t>, 13> kShownKeys{{
     {u'\uF72C', u'\u21DE'},
     {u'\uF72D', u'\u21DF'},
     {u'\uF739', u'\u232B'},
-}};
+});
 
 // The modifier keys that a mask stands for.
-constexpr std::array<std::pair<std::int32_t, std::u16string_view>, 6> kModifierTexts{{
+constexpr auto kModifierTexts = std::to_array<std::pair<std::int32_t, std::u16string_view>>({
     {0, u""},
     {hexInputCondition, u""},
     {storeCondition, u"\u2303\u2325-"},
     {recallCondition, u"\u2325-"},
     {inverseCondition, u"\u21E7-"},
     {hyperbolicCondition, u"\u2303-"},
-}};
+});
 
 }  // namespace
 

@@ -44,7 +44,7 @@ struct HotKeyState {
     bool isHexInput = false;
 };
 
-// The 85 rows. The order counts: the first row that applies wins, which is how a letter is a digit
+// All rows. The order counts: the first row that applies wins, which is how a letter is a digit
 // in HEX input and a function elsewhere.
 [[nodiscard]] std::span<const HotKey> hotKeyRows();
 

@@ -13,7 +13,7 @@ consteval Comand command(const char (&category)[5], const char (&action)[5]) {
 constexpr std::int32_t kAnyModifier =
     storeCondition | recallCondition | inverseCondition | hyperbolicCondition;
 
-constexpr std::array<HotKey, 85> kHotKeys{{
+constexpr auto kHotKeys = std::to_array<HotKey>({
     {command("data", "N00A"), u'a', hexInputCondition, HotKeyTest::hexInput},
     {command("data", "N00B"), u'b', hexInputCondition, HotKeyTest::hexInput},
     {command("data", "N00C"), u'c', hexInputCondition, HotKeyTest::hexInput},
@@ -99,7 +99,7 @@ constexpr std::array<HotKey, 85> kHotKeys{{
     {command("bina", "/   "), u'/', 0, HotKeyTest::all},
     {command("bina", "^   "), u'^', 0, HotKeyTest::all},
     {command("bina", "~   "), u'~', 0, HotKeyTest::all},
-}};
+});
 
 }  // namespace
 

@@ -15,7 +15,7 @@ struct ErrorText {
     std::u16string_view text;
 };
 
-constexpr std::array<ErrorText, 12> kErrorTexts{{
+constexpr auto kErrorTexts = std::to_array<ErrorText>({
     {.code = '\0', .text = u"indeterminate"},
     {.code = '$', .text = u"input error"},
     {.code = '?', .text = u"undefined"},
@@ -28,7 +28,7 @@ constexpr std::array<ErrorText, 12> kErrorTexts{{
     {.code = 'Q', .text = u"sqrt error"},
     {.code = 'T', .text = u"trig error"},
     {.code = 'U', .text = u"underflow"},
-}};
+});
 
 std::u16string patternText(std::uint64_t pattern) {
     std::array<char, 16> digits{};

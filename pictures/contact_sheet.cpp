@@ -100,10 +100,10 @@ struct OpenDrawer {
     const char* title;
 };
 
-constexpr std::array<OpenDrawer, 4> kDrawers{{{DrawerName::memory, "memory"},
-                                              {DrawerName::constants, "constants"},
-                                              {DrawerName::conversion, "conversions"},
-                                              {DrawerName::functions, "functions"}}};
+constexpr auto kDrawers = std::to_array<OpenDrawer>({{DrawerName::memory, "memory"},
+                                                     {DrawerName::constants, "constants"},
+                                                     {DrawerName::conversion, "conversions"},
+                                                     {DrawerName::functions, "functions"}});
 
 std::vector<Picture> drawers() {
     std::vector<Picture> pictures;

@@ -22,8 +22,8 @@ constexpr auto kMostBytes = static_cast<qsizetype>(PasteboardPort::kLongestPaste
 constexpr qsizetype kBytesOfUnit = 4;  // in which lengths of properties are counted
 
 // As what a text may be had, the best first.
-constexpr std::array<std::string_view, 4> kTargets{"UTF8_STRING", "text/plain;charset=utf-8",
-                                                   "text/plain", "STRING"};
+constexpr auto kTargets = std::to_array<std::string_view>(
+    {"UTF8_STRING", "text/plain;charset=utf-8", "text/plain", "STRING"});
 
 template <class Reply>
 using Owned = std::unique_ptr<Reply, decltype(&std::free)>;

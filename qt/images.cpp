@@ -16,7 +16,7 @@ struct TextImage {
     double size;
 };
 
-constexpr std::array<TextImage, 18> kTextImages{{
+constexpr auto kTextImages = std::to_array<TextImage>({
     {u"EEX-3Small", u"10^{\u22123}", 11},
     {u"EEX-3Pressed", u"10^{\u22123}", 11},
     {u"EEX-6Small", u"10^{\u22126}", 11},
@@ -35,7 +35,7 @@ constexpr std::array<TextImage, 18> kTextImages{{
     {u"lnxySmall.tiff", u"log_{x}y", 11},
     {u"pointSmall.tiff", u".", 13},
     {u"commaSmall.tiff", u",", 13},
-}};
+});
 
 // The small icons of the title bar: rectangles on a grid of 9 by 9, origin at the lower left.
 struct IconRect {
@@ -50,12 +50,12 @@ struct Icon {
 
 constexpr double kIconGrid = 9.0;
 
-constexpr std::array<Icon, 4> kIcons{{
+constexpr auto kIcons = std::to_array<Icon>({
     {u"statusOn", {{{true, 0, 3, 9, 9}, {true, 0, 0, 9, 2}}}},
     {u"statusOff", {{{true, 0, 2, 9, 9}, {true, 0, 2, 0, 0}}}},
     {u"xyztOff", {{{true, 0, 0, 9, 9}, {false, 2, 3, 5, 4}}}},
     {u"xyztOn", {{{true, 0, 2, 9, 7}, {false, 2, 5, 5, 2}}}},
-}};
+});
 
 void paintIcon(QPainter& painter, const QRectF& rect, const Icon& icon) {
     const QRectF grid(rect.center().x() - kIconGrid / 2.0, rect.center().y() - kIconGrid / 2.0,

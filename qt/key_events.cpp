@@ -8,7 +8,7 @@
 namespace talvex {
 namespace {
 
-constexpr std::array<std::pair<int, char16_t>, 15> kNamedKeys{{
+constexpr auto kNamedKeys = std::to_array<std::pair<int, char16_t>>({
     {Qt::Key_Return, u'\r'},
     {Qt::Key_Enter, u'\x03'},
     {Qt::Key_Tab, u'\t'},
@@ -24,34 +24,34 @@ constexpr std::array<std::pair<int, char16_t>, 15> kNamedKeys{{
     {Qt::Key_PageDown, NSPageDownFunctionKey},
     {Qt::Key_Clear, NSClearLineFunctionKey},
     {Qt::Key_Space, u' '},
-}};
+});
 
 // Dead keys of which the table knows the accent as a key of its own.
-constexpr std::array<std::pair<std::uint32_t, char16_t>, 2> kDeadKeys{{
+constexpr auto kDeadKeys = std::to_array<std::pair<std::uint32_t, char16_t>>({
     {XKB_KEY_dead_circumflex, u'^'},
     {XKB_KEY_dead_tilde, u'~'},
-}};
+});
 
-constexpr std::array<std::pair<int, std::uint32_t>, 5> kModifierKeys{{
+constexpr auto kModifierKeys = std::to_array<std::pair<int, std::uint32_t>>({
     {Qt::Key_Shift, NSShiftKeyMask},
     {Qt::Key_Control, NSControlKeyMask},
     {Qt::Key_Alt, NSAlternateKeyMask},
     {Qt::Key_Meta, NSCommandKeyMask},
     {Qt::Key_Super_L, NSCommandKeyMask},
-}};
+});
 
 // Alt pressed while Shift is held has a keysym of its own, which the toolkit calls Meta.
-constexpr std::array<std::pair<std::uint32_t, std::uint32_t>, 2> kModifierKeysyms{{
+constexpr auto kModifierKeysyms = std::to_array<std::pair<std::uint32_t, std::uint32_t>>({
     {XKB_KEY_Meta_L, NSAlternateKeyMask},
     {XKB_KEY_Meta_R, NSAlternateKeyMask},
-}};
+});
 
-constexpr std::array<std::pair<Qt::KeyboardModifier, std::uint32_t>, 4> kModifierStates{{
+constexpr auto kModifierStates = std::to_array<std::pair<Qt::KeyboardModifier, std::uint32_t>>({
     {Qt::ShiftModifier, NSShiftKeyMask},
     {Qt::ControlModifier, NSControlKeyMask},
     {Qt::AltModifier, NSAlternateKeyMask},
     {Qt::MetaModifier, NSCommandKeyMask},
-}};
+});
 
 template <class Table, class Key>
 auto find(const Table& table, Key key) -> std::optional<decltype(table[0].second)> {

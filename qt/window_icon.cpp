@@ -12,7 +12,7 @@ namespace talvex {
 namespace {
 
 // The larger sizes of a theme would make a megabyte of each window's icon.
-constexpr std::array<int, 5> kSizes{16, 24, 32, 48, 64};
+constexpr auto kSizes = std::to_array<int>({16, 24, 32, 48, 64});
 
 struct RoundedRect {
     QRgb color;
@@ -28,7 +28,7 @@ constexpr QRgb kOperationKey = 0xff2f669e;
 
 // The same as packaging/icon.svg, on a grid of 64 by 64.
 constexpr double kGrid = 64.0;
-constexpr std::array<RoundedRect, 17> kParts{{
+constexpr auto kParts = std::to_array<RoundedRect>({
     {kOutline, 5, 1, 54, 62, 8},
     {kCase, 7, 3, 50, 58, 6},
     {kDigits, 10.5, 6.5, 43, 17, 2.5},
@@ -46,10 +46,10 @@ constexpr std::array<RoundedRect, 17> kParts{{
     {kNumberKey, 22, 48, 9, 7, 1.5},
     {kNumberKey, 33, 48, 9, 7, 1.5},
     {kOperationKey, 44, 48, 9, 7, 1.5},
-}};
+});
 
-constexpr std::array<QPointF, 5> kArrow{
-    {{15.5, 50.0}, {15.5, 43.0}, {13.2, 45.3}, {15.5, 43.0}, {17.8, 45.3}}};
+constexpr auto kArrow =
+    std::to_array<QPointF>({{15.5, 50.0}, {15.5, 43.0}, {13.2, 45.3}, {15.5, 43.0}, {17.8, 45.3}});
 
 QPixmap drawnIcon(int size) {
     QPixmap pixmap(size, size);

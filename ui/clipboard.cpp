@@ -10,7 +10,7 @@
 namespace talvex {
 namespace {
 
-constexpr std::array<std::u16string_view, 4> kBaseNames{u"bin", u"oct", u"dec", u"hex"};
+constexpr auto kBaseNames = std::to_array<std::u16string_view>({u"bin", u"oct", u"dec", u"hex"});
 
 std::u16string textOf(const TextSlot& slot) { return slot ? slot->stringValue() : u""; }
 

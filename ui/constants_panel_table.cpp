@@ -7,7 +7,7 @@ namespace {
 
 // Six to a column, the outermost column first: what is used most stays in sight when the drawer is
 // drawn out a little. Universal constants, then atoms and fields, then numbers.
-constexpr std::array<ConstantKeyRow, 48> kKeys{{
+constexpr auto kKeys = std::to_array<ConstantKeyRow>({
     {u"consc   ", u"c", u"speed of light in vacuum", u"m/s"},
     {u"consh   ", u"h", u"Planck constant", u"J s"},
     {u"conshbar", u"\u210F", u"reduced Planck constant", u"J s"},
@@ -63,7 +63,7 @@ constexpr std::array<ConstantKeyRow, 48> kKeys{{
     {u"consLN10", u"ln 10", u"natural logarithm of 10", u""},
     {u"consL2e ", u"log_{2}e", u"logarithm of e to the base 2", u""},
     {u"consLOGe", u"log e", u"logarithm of e to the base 10", u""},
-}};
+});
 
 }  // namespace
 

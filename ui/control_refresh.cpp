@@ -18,7 +18,7 @@ bool isArmed(const DYXCalculator& calculator) {
     return calculator.store() == Store;
 }
 
-constexpr std::array<ModifierKey, 8> kModifierKeys{{
+constexpr auto kModifierKeys = std::to_array<ModifierKey>({
     {u"modiARC ", [](const DYXCalculator& calculator) { return calculator.inverse; }},
     {u"modiHYP ", [](const DYXCalculator& calculator) { return calculator.hyperbolic; }},
     {u"memoRCL ", [](const DYXCalculator& calculator) { return calculator.recall(); }},
@@ -27,7 +27,7 @@ constexpr std::array<ModifierKey, 8> kModifierKeys{{
     {u"memoSTO-", isArmed<3>},
     {u"memoSTO*", isArmed<4>},
     {u"memoSTO/", isArmed<5>},
-}};
+});
 
 }  // namespace
 

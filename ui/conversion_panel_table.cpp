@@ -5,7 +5,7 @@
 namespace talvex {
 namespace {
 
-constexpr std::array<UnitKeyRow, 14> kPrefixes{{
+constexpr auto kPrefixes = std::to_array<UnitKeyRow>({
     {u"one ", u"1", u"one, no prefix"},
     {u"Kilo", u"k", u"kilo, 10^3"},
     {u"Mega", u"M", u"mega, 10^6"},
@@ -20,9 +20,9 @@ constexpr std::array<UnitKeyRow, 14> kPrefixes{{
     {u"pico", u"p", u"pico, 10^{\u221212}"},
     {u"femt", u"f", u"femto, 10^{\u221215}"},
     {u"atto", u"a", u"atto, 10^{\u221218}"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 18> kLengths{{
+constexpr auto kLengths = std::to_array<UnitKeyRow>({
     {u"m   ", u"m", u"metre"},
     {u"cm  ", u"cm", u"centimetre"},
     {u"mm  ", u"mm", u"millimetre"},
@@ -41,9 +41,9 @@ constexpr std::array<UnitKeyRow, 18> kLengths{{
     {u"AU  ", u"AU", u"astronomical unit"},
     {u"LY  ", u"ly", u"light year"},
     {u"prsc", u"pc", u"parsec"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 10> kAreas{{
+constexpr auto kAreas = std::to_array<UnitKeyRow>({
     {u"m^2 ", u"m^2", u"square metre"},
     {u"cm^2", u"cm^2", u"square centimetre"},
     {u"um^2", u"\u00B5m^2", u"square micrometre"},
@@ -54,9 +54,9 @@ constexpr std::array<UnitKeyRow, 10> kAreas{{
     {u"ft^2", u"ft^2", u"square foot"},
     {u"mi^2", u"mi^2", u"square mile"},
     {u"acre", u"acre", u"acre"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 15> kVolumes{{
+constexpr auto kVolumes = std::to_array<UnitKeyRow>({
     {u"m^3 ", u"m^3", u"cubic metre"},
     {u"cm^3", u"cm^3", u"cubic centimetre"},
     {u"ltr ", u"L", u"litre"},
@@ -72,9 +72,9 @@ constexpr std::array<UnitKeyRow, 15> kVolumes{{
     {u"in^3", u"in^3", u"cubic inch"},
     {u"ft^3", u"ft^3", u"cubic foot"},
     {u"yd^3", u"yd^3", u"cubic yard"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 14> kMasses{{
+constexpr auto kMasses = std::to_array<UnitKeyRow>({
     {u"kg  ", u"kg", u"kilogram"},
     {u"gm  ", u"g", u"gram"},
     {u"mg  ", u"mg", u"milligram"},
@@ -89,18 +89,18 @@ constexpr std::array<UnitKeyRow, 14> kMasses{{
     {u"Eart", u"Earth", u"mass of the Earth"},
     {u"Jupi", u"Jupiter", u"mass of Jupiter"},
     {u"Sola", u"Sun", u"mass of the Sun"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 6> kForces{{
+constexpr auto kForces = std::to_array<UnitKeyRow>({
     {u"N   ", u"N", u"newton"},
     {u"Dyne", u"dyn", u"dyne"},
     {u"kgf ", u"kgf", u"kilogram-force"},
     {u"Flbs", u"lbf", u"pound-force"},
     {u"Foz ", u"ozf", u"ounce-force"},
     {u"FTon", u"tonf", u"ton-force"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 8> kPressures{{
+constexpr auto kPressures = std::to_array<UnitKeyRow>({
     {u"Pa  ", u"Pa", u"pascal"},
     {u"mBar", u"mbar", u"millibar"},
     {u"Bars", u"bar", u"bar"},
@@ -109,9 +109,9 @@ constexpr std::array<UnitKeyRow, 8> kPressures{{
     {u"mmHg", u"mmHg", u"millimetre of mercury"},
     {u"inHg", u"inHg", u"inch of mercury"},
     {u"psi ", u"psi", u"pound-force per square inch"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 10> kDensities{{
+constexpr auto kDensities = std::to_array<UnitKeyRow>({
     {u"kgm3", u"kg/m^3", u"kilogram per cubic metre"},
     {u"kgcm", u"kg/cm^3", u"kilogram per cubic centimetre"},
     {u"kgmm", u"kg/mm^3", u"kilogram per cubic millimetre"},
@@ -122,9 +122,9 @@ constexpr std::array<UnitKeyRow, 10> kDensities{{
     {u"g/mm", u"g/mm^3", u"gram per cubic millimetre"},
     {u"g/l ", u"g/L", u"gram per litre"},
     {u"g/ml", u"g/mL", u"gram per millilitre"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 20> kEnergies{{
+constexpr auto kEnergies = std::to_array<UnitKeyRow>({
     {u"Joul", u"J", u"joule"},
     {u"ergs", u"erg", u"erg"},
     {u"cal ", u"cal", u"calorie"},
@@ -145,9 +145,9 @@ constexpr std::array<UnitKeyRow, 20> kEnergies{{
     {u"Emm ", u"mm", u"photon by its wavelength in millimetres"},
     {u"Ecm ", u"cm", u"photon by its wavelength in centimetres"},
     {u"Em  ", u"m", u"photon by its wavelength in metres"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 11> kPowers{{
+constexpr auto kPowers = std::to_array<UnitKeyRow>({
     {u"Watt", u"W", u"watt"},
     {u"kW  ", u"kW", u"kilowatt"},
     {u"MW  ", u"MW", u"megawatt"},
@@ -159,9 +159,9 @@ constexpr std::array<UnitKeyRow, 11> kPowers{{
     {u"dB50", u"dBmV 50", u"decibel above a millivolt at 50 ohm"},
     {u"dB75", u"dBmV 75", u"decibel above a millivolt at 75 ohm"},
     {u"LSun", u"L_{Sun}", u"luminosity of the Sun"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 12> kTemperatures{{
+constexpr auto kTemperatures = std::to_array<UnitKeyRow>({
     {u"cent", u"\u00B0C", u"degree Celsius"},
     {u"fahr", u"\u00B0F", u"degree Fahrenheit"},
     {u"kelv", u"K", u"kelvin"},
@@ -174,9 +174,9 @@ constexpr std::array<UnitKeyRow, 12> kTemperatures{{
     {u"TypR", u"Type R", u"thermocouple type R in millivolts"},
     {u"TypS", u"Type S", u"thermocouple type S in millivolts"},
     {u"TypT", u"Type T", u"thermocouple type T in millivolts"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 15> kTimes{{
+constexpr auto kTimes = std::to_array<UnitKeyRow>({
     {u"sec ", u"s", u"second"},
     {u"mins", u"min", u"minute"},
     {u"hour", u"h", u"hour"},
@@ -192,9 +192,9 @@ constexpr std::array<UnitKeyRow, 15> kTimes{{
     {u"MHz ", u"MHz", u"period of so many megahertz"},
     {u"GHz ", u"GHz", u"period of so many gigahertz"},
     {u"THz ", u"THz", u"period of so many terahertz"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 7> kSpeeds{{
+constexpr auto kSpeeds = std::to_array<UnitKeyRow>({
     {u"m/s ", u"m/s", u"metre per second"},
     {u"kph ", u"km/h", u"kilometre per hour"},
     {u"ft/s", u"ft/s", u"foot per second"},
@@ -202,15 +202,15 @@ constexpr std::array<UnitKeyRow, 7> kSpeeds{{
     {u"knot", u"kn", u"knot"},
     {u"mach", u"Mach", u"Mach number at 340 m/s"},
     {u"c   ", u"c", u"speed of light"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 3> kAccelerations{{
+constexpr auto kAccelerations = std::to_array<UnitKeyRow>({
     {u"ms-2", u"m/s^2", u"metre per second squared"},
     {u"fs-2", u"ft/s^2", u"foot per second squared"},
     {u"g   ", u"g", u"standard gravity"},
-}};
+});
 
-constexpr std::array<UnitKeyRow, 12> kAngles{{
+constexpr auto kAngles = std::to_array<UnitKeyRow>({
     {u"degs", u"\u00B0", u"degree"},
     {u"'   ", u"\u2032", u"minute of arc"},
     {u"\"   ", u"\u2033", u"second of arc"},
@@ -223,9 +223,9 @@ constexpr std::array<UnitKeyRow, 12> kAngles{{
     {u"revs", u"rev", u"revolution"},
     {u"%grd", u"% grade", u"grade in per cent"},
     {u"slop", u"slope", u"slope, rise over run"},
-}};
+});
 
-constexpr std::array<UnitPage, 15> kPages{{
+constexpr auto kPages = std::to_array<UnitPage>({
     {u"Prefix", u"prfx", kPrefixes},
     {u"Length", u"len ", kLengths},
     {u"Area", u"area", kAreas},
@@ -241,7 +241,7 @@ constexpr std::array<UnitPage, 15> kPages{{
     {u"Speed", u"sped", kSpeeds},
     {u"Acceleration", u"accl", kAccelerations},
     {u"Angle", u"angl", kAngles},
-}};
+});
 
 }  // namespace
 

@@ -8,7 +8,7 @@ namespace {
 using enum KeyGroup;
 
 // Rows count from the bottom, which stays in sight when the drawer is drawn out a little.
-constexpr std::array<FunctionKeyRow, 41> kKeys{{
+constexpr auto kKeys = std::to_array<FunctionKeyRow>({
     {u"binaDEL%", u"\u0394%", u"change from Y to X in per cent", 0, 0},
     {u"binaMEAN", u"\u221A(x\u00B7y)", u"geometric mean of X and Y", 0, 1},
     {u"binaHYPT", u"\u221A(x^2+y^2)", u"hypotenuse of X and Y", 0, 2},
@@ -56,7 +56,7 @@ constexpr std::array<FunctionKeyRow, 41> kKeys{{
     {u"unitZETA", u"\u03B6(x)", u"Riemann zeta function", 6, 3},
     {u"unitERF ", u"erf", u"error function", 6, 4},
     {u"unitERFC", u"erfc", u"complement of the error function", 6, 5},
-}};
+});
 
 }  // namespace
 

@@ -5,7 +5,7 @@
 namespace talvex {
 namespace {
 
-constexpr std::array<HelpPage, 14> kPages{{
+constexpr auto kPages = std::to_array<HelpPage>({
     {u"Start", 0},
     {u"Stack", 1},
     {u"Numbers", 2},
@@ -20,14 +20,14 @@ constexpr std::array<HelpPage, 14> kPages{{
     {u"Settings", 11},
     {u"Clipboard", 12},
     {u"Files", 13},
-}};
+});
 
 struct CategoryPage {
     std::u16string_view category;
     std::u16string_view title;
 };
 
-constexpr std::array<CategoryPage, 9> kPagesOfCategories{{
+constexpr auto kPagesOfCategories = std::to_array<CategoryPage>({
     {u"unit", u"Functions"},
     {u"bina", u"Functions"},
     {u"null", u"Functions"},
@@ -37,7 +37,7 @@ constexpr std::array<CategoryPage, 9> kPagesOfCategories{{
     {u"memo", u"Memory"},
     {u"stac", u"Stack"},
     {u"data", u"Numbers"},
-}};
+});
 
 constexpr std::string_view kUnreserved =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";

@@ -11,7 +11,7 @@ namespace talvex {
 namespace {
 
 // What the user's own programs show; the names count to the letter.
-constexpr std::array<std::u16string_view, 3> kOutsideSchemes{u"https", u"http", u"mailto"};
+constexpr auto kOutsideSchemes = std::to_array<std::u16string_view>({u"https", u"http", u"mailto"});
 
 }  // namespace
 

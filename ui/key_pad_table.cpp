@@ -15,7 +15,7 @@ constexpr int kColumns = 10;
 constexpr int kRows = 6;
 
 // Functions on the left, the stack beside ENTER, digits and operators where the right hand lies.
-constexpr std::array<KeyRow, 59> kKeys{{
+constexpr auto kKeys = std::to_array<KeyRow>({
     {u"modiARC ", u"INV", u"inverse of the next function", shift, 0, 0, 1, modifier},
     {u"modiHYP ", u"HYP", u"hyperbolic form of the next function", shift, 1, 0, 1, modifier},
     {u"memoRCL ", u"RCL", u"recall a register, or read a converted unit", memory, 2, 0, 1,
@@ -81,7 +81,7 @@ constexpr std::array<KeyRow, 59> kKeys{{
     {u"data.   ", u"", u"decimal point", digit, 7, 5},
     {u"dataCHS ", u"+/\u2212", u"change sign", digit, 8, 5},
     {u"bina+   ", u"+", u"add X to Y", operation, 9, 5},
-}};
+});
 
 // Whether the keys fill the grid with no gap and no overlap.
 consteval bool fillsTheGrid() {
@@ -97,22 +97,22 @@ consteval bool fillsTheGrid() {
 }
 static_assert(fillsTheGrid());
 
-constexpr std::array<HexKeyRow, 6> kHexKeys{{
+constexpr auto kHexKeys = std::to_array<HexKeyRow>({
     {u"dataN00A", u"A", u"A", u"dataE-03", u"exponent -3", u"EEX-3Small", u"EEX-3Pressed"},
     {u"dataN00B", u"B", u"B", u"dataE-06", u"exponent -6", u"EEX-6Small", u"EEX-6Pressed"},
     {u"dataN00C", u"C", u"C", u"dataE-09", u"exponent -9", u"EEX-9Small", u"EEX-9Pressed"},
     {u"dataN00D", u"D", u"D", u"dataE+03", u"exponent 3", u"EEX+3Small", u"EEX+3Pressed"},
     {u"dataN00E", u"E", u"E", u"dataE+06", u"exponent 6", u"EEX+6Small", u"EEX+6Pressed"},
     {u"dataN00F", u"F", u"F", u"dataE+09", u"exponent 9", u"EEX+9Small", u"EEX+9Pressed"},
-}};
+});
 
 // From left to right as the drawers lie.
-constexpr std::array<DrawerKeyRow, 4> kDrawerKeys{{
+constexpr auto kDrawerKeys = std::to_array<DrawerKeyRow>({
     {DrawerName::constants, u"\u25C2 constants", u"open or close the drawer of constants"},
     {DrawerName::conversion, u"\u25B4 units", u"open or close the drawer of unit conversions"},
     {DrawerName::functions, u"\u25BE functions", u"open or close the drawer of more functions"},
     {DrawerName::memory, u"memory \u25B8", u"open or close the drawer of memory registers"},
-}};
+});
 
 constexpr double kKeyWidth = 36.0;
 constexpr double kGap = kKeyGap;

@@ -20,14 +20,16 @@ struct Choice {
     int tag;
 };
 
-constexpr std::array<Choice, 5> kAngles{
-    {{u"RAD", 0}, {u"DEG", 1}, {u"GRD", 2}, {u"HRS", 3}, {u"REV", 4}}};
-constexpr std::array<Choice, 3> kDecimals{{{u"As the System", 0}, {u"Point", 1}, {u"Comma", 2}}};
-constexpr std::array<Choice, 4> kSeparators{
-    {{u"None", 0}, {u"By Mode", 1}, {u"Thin Space", 2}, {u"Blank", 3}}};
-constexpr std::array<Choice, 4> kGroups{
-    {{u"As the System", 0}, {u"Twos", 2}, {u"Threes", 3}, {u"Fours", 4}}};
-constexpr std::array<Choice, 3> kFonts{{{u"By Mode", 0}, {u"Proportional", 1}, {u"Monospaced", 2}}};
+constexpr auto kAngles =
+    std::to_array<Choice>({{u"RAD", 0}, {u"DEG", 1}, {u"GRD", 2}, {u"HRS", 3}, {u"REV", 4}});
+constexpr auto kDecimals =
+    std::to_array<Choice>({{u"As the System", 0}, {u"Point", 1}, {u"Comma", 2}});
+constexpr auto kSeparators =
+    std::to_array<Choice>({{u"None", 0}, {u"By Mode", 1}, {u"Thin Space", 2}, {u"Blank", 3}});
+constexpr auto kGroups =
+    std::to_array<Choice>({{u"As the System", 0}, {u"Twos", 2}, {u"Threes", 3}, {u"Fours", 4}});
+constexpr auto kFonts =
+    std::to_array<Choice>({{u"By Mode", 0}, {u"Proportional", 1}, {u"Monospaced", 2}});
 
 NSMenuItem separator() { return {}; }
 
@@ -197,7 +199,7 @@ struct DrawerItem {
     void (*toggle)(Controller&);
 };
 
-constexpr std::array<DrawerItem, 4> kDrawerItems{{
+constexpr auto kDrawerItems = std::to_array<DrawerItem>({
     {u"Memory", DrawerName::memory, [](Controller& now) { now.takeToggleMemoryDrawerFrom(); }},
     {u"Constants", DrawerName::constants,
      [](Controller& now) { now.takeToggleConstantsDrawerFrom(); }},
@@ -205,7 +207,7 @@ constexpr std::array<DrawerItem, 4> kDrawerItems{{
      [](Controller& now) { now.takeToggleConversionDrawerFrom(); }},
     {u"Functions", DrawerName::functions,
      [](Controller& now) { now.takeToggleFunctionsDrawerFrom(); }},
-}};
+});
 
 // Without the key pad no drawer opens, and the items show which would come back with it.
 NSMenu drawersMenu(Controller& controller) {

@@ -8,7 +8,7 @@ namespace {
 using enum KeyGroup;
 using enum KeyClass;
 
-constexpr std::array<MemoryKeyRow, 8> kKeys{{
+constexpr auto kKeys = std::to_array<MemoryKeyRow>({
     {u"memoSTO ", u"STO", u"store X in a register", memory, 0, 0, 1, modifier},
     {u"memoSTO+", u"STO+", u"add X to a register", memory, 0, 1, 1, modifier},
     {u"memoSTO-", u"STO\u2212", u"subtract X from a register", memory, 0, 2, 1, modifier},
@@ -18,7 +18,7 @@ constexpr std::array<MemoryKeyRow, 8> kKeys{{
      modifier},
     {u"memoSTOC", u"cancel", u"take back STO and RCL", clear, 1, 1, 2},
     {u"memoCLMM", u"clear all", u"clear all memory registers", clear, 1, 3, 2},
-}};
+});
 
 }  // namespace
 

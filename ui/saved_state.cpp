@@ -13,12 +13,12 @@ struct SavedDrawer {
     std::int32_t SavedState::*state;
 };
 
-constexpr std::array<SavedDrawer, 4> kSavedDrawers{{
+constexpr auto kSavedDrawers = std::to_array<SavedDrawer>({
     {DrawerName::memory, &SavedState::memoryWasOpen, &SavedState::memoryDrawerState},
     {DrawerName::constants, &SavedState::constantsWasOpen, &SavedState::constantsDrawerState},
     {DrawerName::conversion, &SavedState::conversionWasOpen, &SavedState::conversionDrawerState},
     {DrawerName::functions, &SavedState::functionsWasOpen, &SavedState::functionsDrawerState},
-}};
+});
 
 }  // namespace
 
