@@ -93,10 +93,7 @@ void DYXOutputDisplay::setOutputTo(double number) {
         show({.mantissa = {kInfinity}, .sign = signBitText(number)});
         return;
     }
-    const std::int32_t mode = effectiveOutputMode();
-    if (isDisplayMode(mode)) {
-        format(rowOfMode(mode), number);
-    }
+    format(rowOfMode(effectiveMode(effectiveOutputMode())), number);
 }
 
 void DYXOutputDisplay::show(LineText text) {
@@ -188,10 +185,9 @@ void DYXOutputDisplay::setTextFont(const NSFont& font) {
 }
 
 void DYXOutputDisplay::updateOutputJustification() {
-    const std::int32_t mode = effectiveOutputMode();
-    if (fields_.mantissa && isDisplayMode(mode)) {
-        fields_.mantissa->setAlignment(isIntegerMode(mode) ? NSTextAlignment::right
-                                                           : NSTextAlignment::left);
+    if (fields_.mantissa) {
+        fields_.mantissa->setAlignment(
+            isIntegerMode(effectiveOutputMode()) ? NSTextAlignment::right : NSTextAlignment::left);
     }
 }
 

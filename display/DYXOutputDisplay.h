@@ -42,8 +42,8 @@ class DYXOutputDisplay {
     // Makes this line follow another one: all settings, its effective mode, its font.
     void syncToDisplay(const DYXOutputDisplay& line);
 
-    // Shows the number in the effective mode. NaNs and infinities show as words in every mode; a
-    // mode outside 0 to 12 leaves the slots as they are.
+    // Shows the number in the effective mode, in FIX if there is no such mode. NaNs and infinities
+    // show as words in every mode.
     void setOutputTo(double number);
 
     // Precision; its meaning depends on the mode, in FIX and SCI the number of decimals.
@@ -115,7 +115,7 @@ class DYXOutputDisplay {
     [[nodiscard]] std::optional<NSFont> textFont() const;
     // The font of all slots but label and status.
     void setTextFont(const NSFont& font);
-    // Aligns the mantissa left, and right in HEX, DEC, OCT and BIN; nothing in an unknown mode.
+    // Aligns the mantissa left, and right in HEX, DEC, OCT and BIN.
     void updateOutputJustification();
 
     // The formatters take a finite number and write every slot but the label.

@@ -37,6 +37,11 @@ consteval std::array<Row, Count> tableOfModes(const Row (&rows)[Count]) {
     return std::to_array(rows);
 }
 
+// The mode that a number stands for: FIX for all that are of no mode.
+constexpr std::int32_t effectiveMode(std::int32_t number) {
+    return isDisplayMode(number) ? number : mode::FIX;
+}
+
 // HEX, DEC, OCT and BIN.
 constexpr bool isIntegerMode(std::int32_t number) {
     return number >= mode::HEX && number <= mode::BIN;

@@ -98,7 +98,6 @@ class DYXInputDisplay final : public DYXOutputDisplay {
     void appendCharacterDMS(char character);
     void appendCharacterBinary(char character);
     void appendCharacterToExponent(char character);
-    void ignoreCharacter(char character);
     void appendDecimalScientific();
     void appendDecimalFraction();
     void appendDecimalHMS();

@@ -84,8 +84,6 @@ void DYXInputDisplay::appendCharacterBinary(char character) {
     }
 }
 
-void DYXInputDisplay::ignoreCharacter(char /*character*/) {}
-
 void DYXInputDisplay::appendDecimalScientific() {
     if (!inExponent_ && !hasDecimal_) {
         exp_ = 0;

@@ -90,24 +90,13 @@ struct DYXInputDisplay::RuleTables {
                                    .setToDecimal = &Line::refuseDecimal,
                                    .value = &Line::BinaryValue,
                                    .echo = &Line::updateBinary};
-    // A mode that doesn't exist takes no digit, and reads what is there as a decimal number.
-    static constexpr Rules kUnknown{.digits = "",
-                                    .hasDecimalKey = true,
-                                    .hasExponentKey = true,
-                                    .hasSignKey = true,
-                                    .append = &Line::ignoreCharacter,
-                                    .appendDecimal = &Line::appendDecimalScientific,
-                                    .setToDecimal = &Line::setToDecimalScientific,
-                                    .value = &Line::ScientificValue,
-                                    .echo = &Line::updateScientific};
     static constexpr auto kRules = tableOfModes<const Rules*>(
         {&kScientific, &kScientific, &kScientific, &kMonetary, &kFraction, &kCarpentry, &kHours,
          &kDegrees, &kHexadecimal, &kDecimal, &kOctal, &kBinary, &kScientific});
 };
 
 const DYXInputDisplay::Rules& DYXInputDisplay::rulesOf(std::int32_t mode) {
-    return isDisplayMode(mode) ? *RuleTables::kRules.at(static_cast<std::size_t>(mode))
-                               : RuleTables::kUnknown;
+    return *RuleTables::kRules.at(static_cast<std::size_t>(effectiveMode(mode)));
 }
 
 bool DYXInputDisplay::canSetToCharacter(char character) const {

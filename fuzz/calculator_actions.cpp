@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "core/function_tables.h"
-#include "display/display_modes.h"
 #include "platform/NSEvent.h"
 
 namespace talvex {
@@ -172,9 +171,7 @@ void checkInvariants(DYXWindowController& calculator) {
     for (const DYXOutputDisplay* line :
          {&calculator.yDisplay(), &calculator.zDisplay(), &calculator.tDisplay()}) {
         checkLine(*line);
-        // A mode that there isn't, as a damaged file may have it, leaves the line as it was.
-        require(!isDisplayMode(line->effectiveOutputMode()) ||
-                !line->mantissaField()->stringValue().empty());
+        require(!line->mantissaField()->stringValue().empty());
     }
     for (const DrawerName name : kDrawerNames) {
         const NSDrawer& drawer = calculator.drawers()[name].record;

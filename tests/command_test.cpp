@@ -243,18 +243,14 @@ TEST(UnknownCommands, ChangeNothingAndAreRecorded) {
     }
 }
 
-TEST(UnknownModes, OfALineLeaveItAsItWas) {
-    KeyScript script;
-    script.press("1 2 ENTER");
-    const std::string before = script.line();
+TEST(UnknownModes, ShowAndTakeNumbersAsFixDoes) {
     for (const std::int32_t number : {13, -1, std::numeric_limits<std::int32_t>::max(),
                                       std::numeric_limits<std::int32_t>::min()}) {
+        KeyScript script;
         script.inMode(number);
-        script.press("WHAT?");
-        EXPECT_EQ(script.line(), before) << number;
-        script.press("3");
-        EXPECT_EQ(script.beeps(), 1) << number;
-        EXPECT_EQ(script.x(), 12) << number;
+        script.press("1 2 ENTER 3 +");
+        EXPECT_EQ(script.line(), "|15.0000||") << number;
+        EXPECT_EQ(script.calculator.xDisplay().inputMode(), number);
     }
 }
 

@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
         EchoRow{mode::SCI, "EEX CHS", "|1||00"}, EchoRow{mode::SCI, "EEX CHS 5", "|1|-|05"},
         EchoRow{mode::SCI, "EEX BACK", "|1||"}, EchoRow{mode::SCI, "2 EEX .", "|2.||00"},
         EchoRow{mode::IRR, "2 E-09 EEX", "|2|-|09"},
-        EchoRow{mode::SCI, "1 . 2 ENTER EEX", "|1.||00"}, EchoRow{13, "EEX 4", "|1||00"},
+        EchoRow{mode::SCI, "1 . 2 ENTER EEX", "|1.||00"}, EchoRow{13, "EEX 4", "|1| |04"},
         EchoRow{mode::SCI, "1 E+03", "|1|+|03"}, EchoRow{mode::SCI, "1 EEX 1 2 3", "|1| |23"},
         EchoRow{mode::SCI, "0 0 7", "|007||"}, EchoRow{mode::SCI, "EEX 5 BACK", "|1||00"},
         EchoRow{mode::SCI, "EEX EEX", "|1||"}, EchoRow{mode::SCI, ". 5 CHS", "-|,5||", 4, u','}));

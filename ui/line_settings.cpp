@@ -57,9 +57,6 @@ void DYXWindowController::updateDigitGrouping() {
 void DYXWindowController::updateFonts() {
     const std::int32_t displayMode = xDisplay().effectiveOutputMode();
     const bool byMode = settings_.fontMode != 1 && settings_.fontMode != 2;
-    if (byMode && !isDisplayMode(displayMode)) {
-        return;
-    }
     const bool isMonospaced = byMode ? isIntegerMode(displayMode) : settings_.fontMode == 2;
     const NSFont font{.name = isMonospaced ? kMonospacedFont : kProportionalFont,
                       .size = kFontSize};
