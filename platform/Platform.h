@@ -82,7 +82,8 @@ class PasteboardPort {
 
 class FilePort {
   public:
-    // The user's home folder; empty if there is none, and nothing is kept then.
+    // The user's home folder, in the file system's own bytes; empty if there is none, and nothing
+    // is kept then.
     [[nodiscard]] virtual std::string NSHomeDirectory() const = 0;
 
   protected:

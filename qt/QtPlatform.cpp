@@ -4,7 +4,6 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QMimeData>
@@ -100,12 +99,11 @@ void QtPlatform::setPasteboardString(const std::u16string& text) {
     QGuiApplication::clipboard()->setText(toQString(text));
 }
 
-// Where none is told, the toolkit answers with the root of all files.
+// The toolkit's own answer holds only for names that are UTF-8, and is the root of all files where
+// no folder is told.
 std::string QtPlatform::NSHomeDirectory() const {
-    if (qEnvironmentVariableIsEmpty("HOME")) {
-        return {};
-    }
-    return QFile::encodeName(QDir::homePath()).toStdString();
+    const QByteArray home = qgetenv("HOME");
+    return home.startsWith('/') ? home.toStdString() : std::string();
 }
 
 // The record's origin is the lower left corner of the first screen.

@@ -18,12 +18,23 @@
 #include "qt/CalculatorWindow.h"
 #include "qt/DrawerWidget.h"
 #include "qt/HelpWindow.h"
+#include "qt/QtPlatform.h"
 #include "qt/conversions.h"
 #include "qt/palette.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
 namespace {
+
+// A file's name is any bytes.
+TEST(Home, IsTakenAsItIsToldAndOnlyFromTheRoot) {
+    const QByteArray before = qgetenv("HOME");
+    for (const char* const home : {"/home/\xE9", "relative", ""}) {
+        qputenv("HOME", home);
+        EXPECT_EQ(QtPlatform().NSHomeDirectory(), *home == '/' ? home : "");
+    }
+    qputenv("HOME", before);
+}
 
 class Window : public testing::Test {
   protected:
