@@ -2,9 +2,10 @@
 
 #include <array>
 #include <string_view>
-#include <system_error>
+#include <utility>
 
 #include "state/durable_file.h"
+#include "state/kept_copies.h"
 #include "state/property_list.h"
 
 namespace talvex {
@@ -22,11 +23,6 @@ constexpr std::array<Version, 3> kVersions{{
     {.number = 10, .name = "com.Quondel.Talvex.data"},
 }};
 
-std::optional<PropertyDictionary> dictionaryIn(const std::filesystem::path& path) {
-    const std::optional<std::string> bytes = readFile(path, kLargestPropertyList);
-    return bytes ? readPropertyList(*bytes) : std::nullopt;
-}
-
 }  // namespace
 
 std::filesystem::path StateFile::preferences() const { return home_ / "Library" / "Preferences"; }
@@ -38,9 +34,8 @@ std::filesystem::path StateFile::saveDataPath() const {
 std::filesystem::path StateFile::loadDataPath() {
     for (const Version& version : kVersions) {
         std::filesystem::path path = preferences() / version.name;
-        std::error_code error;
         prevVersion_ = version.number;
-        if (std::filesystem::exists(path, error)) {
+        if (!describe(path, Links::followed).isAbsent()) {
             return path;
         }
     }
@@ -51,21 +46,49 @@ std::optional<SavedState> StateFile::read() {
     if (home_.empty()) {
         return std::nullopt;
     }
-    const auto dictionary = dictionaryIn(loadDataPath());
-    return dictionary ? std::optional(savedStateFrom(*dictionary)) : std::nullopt;
+    const std::filesystem::path path = loadDataPath();
+    FileContent file = readFile(path, kLargestPropertyList);
+    if (file.status != FileStatus::read) {
+        return std::nullopt;
+    }
+    const std::optional<PropertyListContent> content = readPropertyList(file.bytes);
+    if (content && content->isWhole && path == saveDataPath()) {
+        knownBytes_ = std::move(file.bytes);
+    }
+    return content ? std::optional(savedStateFrom(content->values)) : std::nullopt;
 }
 
-bool StateFile::write(const SavedState& state) const {
+std::error_code StateFile::keepWhatIsNotOurs(const std::filesystem::path& path,
+                                             const std::string& replacement) const {
+    const FileContent present = readFile(path, kLargestPropertyList);
+    const bool isOurs = present.status == FileStatus::absent ||
+                        (present.status == FileStatus::read &&
+                         (present.bytes == knownBytes_ || present.bytes == replacement));
+    if (isOurs) {
+        return {};
+    }
+    const auto content = readPropertyList(present.bytes);
+    return keepCopy(path, content && content->isWhole ? "other" : "damaged", present);
+}
+
+std::error_code StateFile::write(const SavedState& state) {
     if (home_.empty()) {
-        return false;
+        return std::make_error_code(std::errc::no_such_file_or_directory);
     }
-    const std::filesystem::path path = saveDataPath();
-    std::error_code error;
-    if (std::filesystem::exists(path, error) && !dictionaryIn(path) &&
-        !keepCopyUnderAnotherName(path)) {
-        return false;
+    std::error_code error = makeFolders(preferences());
+    std::filesystem::path path = saveDataPath();
+    error = error ? error : followLinks(path);
+    if (error) {
+        return error;
     }
-    return replaceFile(path, writePropertyList(propertiesOf(state), PropertyListFlavour::xml));
+    std::string bytes = writePropertyList(propertiesOf(state), PropertyListFlavour::xml);
+    const FolderLock lock(path.parent_path());
+    error = keepWhatIsNotOurs(path, bytes);
+    error = error ? error : replaceFile(path, bytes);
+    if (!error) {
+        knownBytes_ = std::move(bytes);
+    }
+    return error;
 }
 
 }  // namespace talvex

@@ -2,6 +2,8 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <system_error>
 
 #include "state/SavedState.h"
 
@@ -23,20 +25,24 @@ class StateFile {
     // The version of the file found last: 12, 11 or 10.
     [[nodiscard]] int prevVersion() const { return prevVersion_; }
 
-    // Nothing if there is no file or it isn't a property list of ours.
+    // Nothing if there is no file, if it can't be read now, or if it isn't a property list.
     std::optional<SavedState> read();
 
-    // Replaces the file by a new one in a single step, once that is safe on the disk; the folder is
-    // made if it is missing, and only the user may read the file. A file in the place that can't be
-    // read goes on under another name, with "damaged" in it. False if anything fails: then the file
-    // is as it was.
-    [[nodiscard]] bool write(const SavedState& state) const;
+    // Replaces the file by a new one in a single step, once that is safe on the disk; folders that
+    // are missing are made, and only the user may look into what is made. A file in the place that
+    // this object has neither read as a whole nor written goes on under another name: with
+    // "damaged" in it, or with "other" if it is a property list that came there meanwhile. After an
+    // error the file is as it was.
+    [[nodiscard]] std::error_code write(const SavedState& state);
 
   private:
     [[nodiscard]] std::filesystem::path preferences() const;
+    [[nodiscard]] std::error_code keepWhatIsNotOurs(const std::filesystem::path& path,
+                                                    const std::string& replacement) const;
 
     std::filesystem::path home_;
     int prevVersion_ = 10;
+    std::optional<std::string> knownBytes_;  // of the newest version's file
 };
 
 }  // namespace talvex

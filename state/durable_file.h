@@ -1,23 +1,45 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
+
+#include "state/system_calls.h"
 
 // Files that are whole at any moment, whatever happens to the program or the machine.
 namespace talvex {
 
-// The bytes of a file; nothing if it can't be read, is no plain file, or is longer than the limit.
-std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t limit);
+// Absent is what surely isn't there. Unreadable is all else that gives no bytes: an error of the
+// disk or of the rights, which may pass, what is no plain file, and a file longer than the limit.
+enum class FileStatus { absent, unreadable, read };
+
+struct FileContent {
+    FileStatus status = FileStatus::absent;
+    std::string bytes;
+};
+
+FileContent readFile(const std::filesystem::path& path, std::size_t limit);
+
+// The path of the file to replace: where a link leads, also if nothing is there yet. An error where
+// it leads to anything but a plain file.
+std::error_code followLinks(std::filesystem::path& path);
+
+// Makes the folder and what is missing above it, for the user alone.
+std::error_code makeFolders(const std::filesystem::path& folder);
 
 // Writes a new file beside the path, readable by the user alone, flushes it to the disk, and puts
-// it in the path's place; the folder is made if it is missing. False if any step fails: then what
-// was there is as it was.
-bool replaceFile(const std::filesystem::path& path, std::string_view bytes);
+// it in the path's place. After an error, what was there is as it was.
+std::error_code replaceFile(const std::filesystem::path& path, std::string_view bytes);
 
-// Gives the file another name as well, derived from its own, that no file has yet. What the path
-// names stays there until it is replaced.
-bool keepCopyUnderAnotherName(const std::filesystem::path& path);
+// Keeps the others of these programs from changing a folder's files at the same time, until the end
+// of the scope. It waits no longer than a second, and does without where a file system can't.
+class FolderLock {
+  public:
+    explicit FolderLock(const std::filesystem::path& folder);
+
+  private:
+    Descriptor folder_;
+};
 
 }  // namespace talvex

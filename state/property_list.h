@@ -15,14 +15,17 @@ using PropertyData = std::vector<std::uint8_t>;
 using PropertyValue = std::variant<bool, std::int64_t, double, PropertyData, std::string>;
 using PropertyDictionary = std::map<std::string, PropertyValue, std::less<>>;
 
-// A bigger file, or a dictionary with more keys, is not taken for one of ours.
+// A bigger file is not taken for one of ours.
 inline constexpr std::size_t kLargestPropertyList = 65536;
-inline constexpr std::size_t kMostProperties = 1000;
 
-// The dictionary in the bytes of a file, of either flavour; nothing if they hold anything else. A
-// dictionary or an array within the dictionary counts as something else, too. Values that are no
-// number, text, boolean or data are left out.
-std::optional<PropertyDictionary> readPropertyList(std::string_view bytes);
+struct PropertyListContent {
+    PropertyDictionary values;
+    bool isWhole = true;  // nothing was left out
+};
+
+// What can be read in the bytes of a file, of either flavour; nothing if they hold no dictionary.
+// Values that are no number, text, boolean or data are left out, and so is what is damaged.
+std::optional<PropertyListContent> readPropertyList(std::string_view bytes);
 
 enum class PropertyListFlavour { xml, binary };
 std::string writePropertyList(const PropertyDictionary& dictionary, PropertyListFlavour flavour);

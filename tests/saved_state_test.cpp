@@ -1,7 +1,6 @@
 // What a calculator brings back after its end, and what it makes of files that it never wrote.
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cmath>
@@ -10,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 #include <limits>
+#include <set>
 #include <string>
 
 #include "numeric/DYXnan.h"
@@ -47,6 +47,9 @@ class SavedFile : public testing::Test {
     [[nodiscard]] std::string bytesOf(const fs::path& path) const {
         std::ifstream file(path, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
+    }
+    [[nodiscard]] fs::path copy(const std::string& word) const {
+        return file().string() + '.' + word;
     }
     [[nodiscard]] fs::path file() const { return StateFile(home).saveDataPath(); }
 
@@ -207,7 +210,7 @@ TEST_F(SavedFile, ReadsOlderFilesAndWritesTheNewest) {
     EXPECT_EQ(stateFile.prevVersion(), 11);
     SavedState state;
     state.reg[0] = 12;
-    EXPECT_TRUE(stateFile.write(state));
+    EXPECT_FALSE(stateFile.write(state));
     EXPECT_EQ(stateFile.read()->reg[0], 12);
     EXPECT_EQ(stateFile.prevVersion(), 12);
     EXPECT_TRUE(fs::exists(folder / "com.Quondel.Talvex.data"));
@@ -257,43 +260,85 @@ TEST_F(SavedFile, KeepsAFileThatItCantRead) {
     for (const char* content : {"no property list", "", "bplist00 neither"}) {
         put(file(), content);
         EXPECT_FALSE(StateFile(home).read());
-        EXPECT_TRUE(StateFile(home).write(state));
+        EXPECT_FALSE(StateFile(home).write(state));
     }
-    EXPECT_EQ(bytesOf(file().string() + ".damaged"), "no property list");
-    EXPECT_EQ(bytesOf(file().string() + ".damaged-3"), "bplist00 neither");
-    EXPECT_TRUE(StateFile(home).write(state));
-    EXPECT_FALSE(fs::exists(file().string() + ".damaged-4"));
-    struct stat description {};
-    EXPECT_EQ(::stat(file().c_str(), &description), 0);
-    EXPECT_EQ(description.st_mode & 0777U, 0600U);
+    EXPECT_EQ(bytesOf(copy("damaged")), "no property list");
+    EXPECT_EQ(bytesOf(copy("damaged-3")), "bplist00 neither");
+    put(file(), "no property list");
+    EXPECT_FALSE(StateFile(home).write(state));
+    EXPECT_FALSE(fs::exists(copy("damaged-4")));
+}
+
+TEST_F(SavedFile, KeepsTheLatestFilesThatCameMeanwhile) {
+    SavedState state;
+    StateFile first(home);
+    StateFile second(home);
+    for (state.reg[0] = 1; state.reg[0] <= 2; ++state.reg[0]) {
+        EXPECT_FALSE(first.write(state));
+    }
+    EXPECT_TRUE(second.read());
+    EXPECT_FALSE(second.write({}));
+    EXPECT_FALSE(fs::exists(copy("other")));
+    for (; state.reg[0] <= 25; ++state.reg[0]) {
+        EXPECT_FALSE(first.write(state));
+        EXPECT_FALSE(second.write({}));
+    }
+    std::set<double> kept;
+    for (const auto& entry : fs::directory_iterator(file().parent_path())) {
+        kept.insert(savedStateFrom(readPropertyList(bytesOf(entry.path()))->values).reg[0]);
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(file().parent_path()), {}), 21);
+    EXPECT_EQ(kept.count(3), 0U);
+    EXPECT_EQ(kept.count(25), 1U);
 }
 
 TEST_F(SavedFile, GivesUpQuietlyWhereItCantWrite) {
-    EXPECT_FALSE(StateFile(fs::path()).write({}));
+    EXPECT_TRUE(StateFile(fs::path()).write({}));
     put(home / "Library", "a file in the folder's place");
-    EXPECT_FALSE(StateFile(home).write({}));
+    EXPECT_TRUE(StateFile(home).write({}));
     fs::remove(home / "Library");
     fs::create_directories(file());  // a folder in the file's place
-    EXPECT_TRUE(StateFile(home).write({}));
-    EXPECT_TRUE(fs::is_directory(file().string() + ".damaged"));
-    DYXWindowController calculator(platform);
-    calculator.applicationWillTerminate();
+    EXPECT_FALSE(StateFile(home).write({}));
+    EXPECT_TRUE(fs::is_directory(copy("damaged")));
 }
 
-TEST_F(SavedFile, RefusesWhatIsNested) {
-    const std::string key = "<key>a</key>";
-    const std::string nested = "<plist><dict>" + key + "<dict></dict></dict></plist>";
-    EXPECT_FALSE(readPropertyList(nested));
-    EXPECT_FALSE(readPropertyList("<plist><dict>" + key + "<array/></dict></plist>"));
-    EXPECT_FALSE(readPropertyList("<plist><array/></plist>"));
+// What is left out of a dictionary costs nothing that is beside it.
+TEST_F(SavedFile, ReadsWhatIsPlainBesideAllElse) {
     std::string deep;
     for (int depth = 0; depth < 8000; ++depth) {
-        deep += "<plist>";
+        deep += "<array>";
     }
-    EXPECT_FALSE(readPropertyList(deep));
-    EXPECT_FALSE(readPropertyList(deep + "<dict>"));
+    struct Row {
+        std::string value;
+        bool isWhole = false;
+        bool isCut = false;
+    };
+    for (const Row& row : {Row{"<true/>", true},
+                           {"<!-- <array> --><string a='1'>&lt;&#x41;<![CDATA[<]]></string>", true},
+                           {"<array/>"},
+                           {"<dict><key>reg[0]</key><integer>9</integer></dict>"},
+                           {"<string>&unknown;</string>"},
+                           {"<string>&#0;</string>"},
+                           {"<integer>1<array/></integer>"},
+                           {"<data>?</data>"},
+                           {"<real>1.5.2</real>"},
+                           {"<null/>"},
+                           {""},
+                           {deep, false, true},
+                           {"<string", false, true}}) {
+        const std::string start = "\xEF\xBB\xBF<?xml?><!DOCTYPE p [<!ENTITY a 'b'>]><plist><dict>";
+        const auto content =
+            readPropertyList(start + "<key>reg[0]</key><integer> +7 </integer>" + "<key>z</key>" +
+                             row.value + "<key>reg[1]</key><real>-1e1</real></dict></plist>");
+        ASSERT_TRUE(content) << row.value;
+        EXPECT_EQ(content->isWhole, row.isWhole) << row.value;
+        const SavedState state = savedStateFrom(content->values);
+        EXPECT_EQ(state.reg[0], 7) << row.value;
+        EXPECT_EQ(state.reg[1], row.isCut ? 0 : -10) << row.value;
+    }
+    EXPECT_FALSE(readPropertyList("<plist><array/></plist>"));
+    EXPECT_FALSE(readPropertyList("<plist><dict>"));
     EXPECT_FALSE(readPropertyList(std::string(kLargestPropertyList + 1, ' ')));
-    EXPECT_TRUE(readPropertyList("<plist><dict>" + key + "<true/></dict></plist>"));
 }
 
 // Whatever is left of a file that was cut or hit by a stray bit, it is read, shown and saved again.
@@ -304,12 +349,12 @@ TEST_F(SavedFile, SurvivesEveryTruncationAndManyFlippedBits) {
         const std::string whole = writePropertyList(propertiesOf(state), flavour);
         for (std::size_t length = 0; length < whole.size(); ++length) {
             if (const auto cut = readPropertyList(whole.substr(0, length))) {
-                propertiesOf(savedStateFrom(*cut));
+                propertiesOf(savedStateFrom(cut->values));
             }
             std::string flipped = whole;
             flipped[length] = static_cast<char>(flipped[length] ^ (1 << length % 8));
             if (const auto read = readPropertyList(flipped)) {
-                propertiesOf(savedStateFrom(*read));
+                propertiesOf(savedStateFrom(read->values));
             }
             if (length % 64 == 0) {
                 put(file(), flipped);

@@ -1,12 +1,11 @@
 #!/usr/bin/python3
 """Looks at the saved state from outside: with another reader and writer of property lists, with a
-program that is killed while it writes, and with a disk that is full. Usage: state_file.py STATE_TOOL"""
+program that is killed while it writes, and with disks that fail. Usage: state_file.py STATE_TOOL"""
+import errno
 import os
 import pathlib
 import plistlib
 import random
-import resource
-import signal
 import stat
 import struct
 import subprocess
@@ -17,6 +16,28 @@ import unittest
 
 TOOL = sys.argv.pop()
 NAME = "Library/Preferences/com.Quondel.TalvexV1.2.data.plist"
+# The first of the calls that CALL names fails with ERROR.
+FAULTS = rb"""
+#define _GNU_SOURCE
+#include <dlfcn.h>
+#include <errno.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/types.h>
+static int fails(const char* name) {
+    static int done;
+    if (done || strcmp(name, getenv("CALL"))) return 0;
+    errno = atoi(getenv("ERROR"));
+    return done = 1;
+}
+#define FAIL(type, name, parameters, arguments) type name parameters { \
+    return fails(#name) ? -1 : ((type (*) parameters)dlsym(RTLD_NEXT, #name)) arguments; }
+FAIL(int, open, (const char* path, int flags, mode_t mode), (path, flags, mode))
+FAIL(ssize_t, read, (int file, void* bytes, size_t size), (file, bytes, size))
+FAIL(ssize_t, write, (int file, const void* bytes, size_t size), (file, bytes, size))
+FAIL(int, fsync, (int file), (file))
+FAIL(int, rename, (const char* from, const char* to), (from, to))
+"""
 KILLS = int(os.environ.get("TALVEX_KILLS", "100"))
 
 
@@ -65,7 +86,6 @@ class StateFile(unittest.TestCase):
             self.put(plistlib.dumps(state, fmt=flavour))
             self.assertEqual(self.rewrite(), 0)
             self.assertEqual(plistlib.loads(self.file.read_bytes()), state)
-        self.assertEqual(stat.S_IMODE(self.file.stat().st_mode), 0o600)
 
     def test_a_kill_at_any_moment_leaves_a_whole_state(self):
         wholes = {data(1.0), data(2.0)}
@@ -79,9 +99,12 @@ class StateFile(unittest.TestCase):
             self.assertEqual(len(state), 59 + 2)
             self.assertIn(state["reg[0]"], wholes)
             self.assertEqual(state["reg[0]"], state["mem[20]"])
-        self.put(plistlib.dumps({}))
+        long_ago = time.time() - 4000
+        for path in self.file.parent.iterdir():
+            os.utime(path, (long_ago, long_ago))
+        (self.file.parent / f".{self.file.name}.999999.new").touch()  # of somebody who writes now
         self.assertEqual(self.rewrite(), 0)
-        self.assertEqual([path.name for path in self.file.parent.iterdir()], [self.file.name])
+        self.assertEqual(len(list(self.file.parent.iterdir())), 2)
 
     def test_two_programs_at_once_leave_a_whole_state(self):
         writers = [subprocess.Popen([TOOL, "alternate", self.home], stdout=subprocess.DEVNULL)
@@ -94,18 +117,46 @@ class StateFile(unittest.TestCase):
             writer.kill()
             writer.wait()
 
-    def test_a_write_that_fails_leaves_the_file_as_it_was(self):
-        before = plistlib.dumps(full_state(2.5))
-        self.put(before)
+    def test_an_error_of_the_disk_loses_nothing(self):
+        kept = [self.file.name, self.file.name + ".other"]
+        for call, error, status, names in [
+                ("read", errno.EIO, 0, kept),
+                ("open", errno.ENFILE, 0, kept),
+                ("open", errno.EINTR, 0, kept[:1]),
+                ("read", errno.EINTR, 0, kept[:1]),
+                ("write", errno.EINTR, 0, kept[:1]),
+                ("fsync", errno.EINTR, 0, kept[:1]),
+                ("rename", errno.EINTR, 0, kept[:1]),
+                ("write", errno.ENOSPC, 1, kept[:1]),
+                ("fsync", errno.EIO, 1, kept[:1]),
+                ("rename", errno.EROFS, 1, kept[:1])]:
+            with self.subTest(call=call, error=errno.errorcode[error]):
+                self.put(plistlib.dumps(full_state(2.5)))
+                faults = {"LD_PRELOAD": SHIM, "CALL": call, "ERROR": str(error)}
+                self.assertEqual(self.rewrite(env=os.environ | faults), status)
+                files = sorted(self.file.parent.iterdir())
+                self.assertEqual([path.name for path in files], names)
+                self.assertEqual(plistlib.loads(files[-1].read_bytes()), full_state(2.5))
+                for path in files:
+                    path.unlink()
 
-        def allow_small_files_only():
-            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
-            resource.setrlimit(resource.RLIMIT_FSIZE, (1000, 1000))
+    def test_what_is_made_is_for_the_user_alone_and_links_stay(self):
+        self.assertEqual(self.rewrite(), 0)
+        for made, mode in ((self.file, 0o600), (self.file.parent, 0o700), (self.file.parent.parent, 0o700)):
+            self.assertEqual(stat.S_IMODE(made.stat().st_mode), mode)
+        self.file.unlink()
+        self.file.symlink_to("../there")
+        self.assertEqual(self.rewrite(), 0)
+        self.assertEqual(len(plistlib.loads((self.home / "Library/there").read_bytes())), 61)
+        (self.home / "Library/there").unlink()
+        os.mkfifo(self.home / "Library/there")
+        self.assertEqual(self.rewrite(), 1)
+        self.assertTrue((self.home / "Library/there").is_fifo())
+        self.assertTrue(self.file.is_symlink())
 
-        self.assertEqual(self.rewrite(preexec_fn=allow_small_files_only), 1)
-        self.assertEqual(self.file.read_bytes(), before)
-        self.assertEqual(len(list(self.file.parent.iterdir())), 1)
 
-
-if __name__ == "__main__":
+with tempfile.TemporaryDirectory() as folder:
+    SHIM = folder + "/faults.so"
+    subprocess.run(["cc", "-x", "c", "-w", "-shared", "-fPIC", "-o", SHIM, "-"], input=FAULTS,
+                   check=True)
     unittest.main()

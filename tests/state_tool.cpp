@@ -1,5 +1,5 @@
 // Reads and writes the saved state in a home folder, for checks from outside.
-//   state_tool rewrite HOME       reads the file and writes it again
+//   state_tool rewrite HOME       reads the file and writes it again, a fresh one if it can't
 //   state_tool alternate HOME     writes two states in turn, until it is killed
 
 #include <cstdio>
@@ -20,12 +20,13 @@ SavedState stateOf(double number) {
 }
 
 int rewrite(StateFile& file) {
-    const auto state = file.read();
-    return state && file.write(*state) ? 0 : 1;
+    const SavedState state = file.read().value_or(SavedState());
+    return file.write(state) ? 1 : 0;
 }
 
-int alternate(const StateFile& file) {
-    for (bool isFirst = true; file.write(stateOf(isFirst ? 1.0 : 2.0)); isFirst = !isFirst) {
+int alternate(StateFile& file) {
+    file.read();
+    for (bool isFirst = true; !file.write(stateOf(isFirst ? 1.0 : 2.0)); isFirst = !isFirst) {
         std::puts("written");
         std::fflush(stdout);
     }
