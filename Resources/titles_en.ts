@@ -684,6 +684,10 @@
             <translation>Temperature</translation>
         </message>
         <message>
+            <source>The state could not be saved</source>
+            <translation>The state could not be saved</translation>
+        </message>
+        <message>
             <source>Thermocouples</source>
             <translation>Thermocouples</translation>
         </message>
@@ -2030,6 +2034,10 @@
         <message>
             <source>tesla, through the Bohr magneton</source>
             <translation>tesla, through the Bohr magneton</translation>
+        </message>
+        <message>
+            <source>there is no home folder</source>
+            <translation>there is no home folder</translation>
         </message>
         <message>
             <source>thermocouple type B in millivolts</source>

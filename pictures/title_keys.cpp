@@ -74,6 +74,7 @@ int main(int argc, char** argv) {
     }
     controller.takeLockOutputAndInputFrom(NSMenuItem{.title = {}, .action = {}});
     validateMenu(controller.views().menu);
+    controller.saveDocument();  // fails without a home folder, and says so
     for (const std::u16string& title : platform.titlesAskedFor) {
         std::puts(qUtf8Printable(toQString(title)));
     }

@@ -15,6 +15,7 @@ namespace talvex {
 class HeadlessPlatform final : public Platform {
   public:
     void NSBeep() override { ++beeps; }
+    void deliverNotification(const std::string& text) override { notifications.push_back(text); }
     void NSLog(const std::u16string& line) override { log.push_back(line); }
     std::uint32_t arc4random() override { return static_cast<std::uint32_t>(random()); }
     [[nodiscard]] NSNumberFormat numberFormat() const override { return format; }
@@ -47,6 +48,7 @@ class HeadlessPlatform final : public Platform {
     void terminate() override { isTerminated = true; }
 
     int beeps = 0;
+    std::vector<std::string> notifications;
     std::vector<std::u16string> log;
     std::mt19937 random;  // always the same numbers, so that a test can be run again
     NSNumberFormat format;

@@ -20,6 +20,15 @@ class AlertPort {
     ~AlertPort() = default;
 };
 
+class NotificationPort {
+  public:
+    // Tells the user, in UTF-8, what went wrong; also while the program ends.
+    virtual void deliverNotification(const std::string& text) = 0;
+
+  protected:
+    ~NotificationPort() = default;
+};
+
 class LogPort {
   public:
     virtual void NSLog(const std::u16string& line) = 0;
@@ -139,6 +148,7 @@ class ApplicationPort {
 
 // All ports of one desktop.
 class Platform : public AlertPort,
+                 public NotificationPort,
                  public LogPort,
                  public RandomPort,
                  public LocalePort,

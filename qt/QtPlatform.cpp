@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDesktopServices>
 #include <QDir>
 #include <QLocale>
@@ -10,6 +12,7 @@
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QUrl>
+#include <cstdio>
 #include <utility>
 
 #include "qt/SelectionReader.h"
@@ -56,6 +59,25 @@ QtPlatform::QtPlatform() {
 QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::NSBeep() { QApplication::beep(); }
+
+void QtPlatform::deliverNotification(const std::string& text) {
+    std::fprintf(stderr, "talvex: %s\n", text.c_str());
+    // Asked for without one, the library starts a bus of its own.
+    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
+        return;
+    }
+    constexpr int kPatience = 1000;  // milliseconds, since the program may be about to end
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.Notifications"),
+        QStringLiteral("/org/freedesktop/Notifications"),
+        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
+    constexpr uint kReplacesNone = 0;
+    constexpr int kUsualTime = -1;
+    message << QStringLiteral("Talvex") << kReplacesNone << QGuiApplication::desktopFileName()
+            << QStringLiteral("Talvex") << QString::fromStdString(text).toHtmlEscaped()
+            << QStringList() << QVariantMap() << kUsualTime;
+    QDBusConnection::sessionBus().call(message, QDBus::Block, kPatience);
+}
 
 void QtPlatform::NSLog(const std::u16string& line) {
     qCDebug(category).noquote() << toQString(line);

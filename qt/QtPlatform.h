@@ -17,6 +17,8 @@ class QtPlatform final : public Platform {
     ~QtPlatform() override;
 
     void NSBeep() override;
+    // On standard error, and by the desktop where it shows notifications.
+    void deliverNotification(const std::string& text) override;
     // Shown when the logging category "talvex" is switched on.
     void NSLog(const std::u16string& line) override;
     std::uint32_t arc4random() override;

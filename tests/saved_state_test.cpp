@@ -292,14 +292,19 @@ TEST_F(SavedFile, KeepsTheLatestFilesThatCameMeanwhile) {
     EXPECT_EQ(kept.count(25), 1U);
 }
 
-TEST_F(SavedFile, GivesUpQuietlyWhereItCantWrite) {
+TEST_F(SavedFile, TellsOfASaveThatFails) {
     EXPECT_TRUE(StateFile(fs::path()).write({}));
     put(home / "Library", "a file in the folder's place");
-    EXPECT_TRUE(StateFile(home).write({}));
+    DYXWindowController calculator(platform);
+    calculator.saveDocument();
+    ASSERT_EQ(platform.notifications.size(), 1U);
+    EXPECT_NE(platform.notifications[0].find(file().string() + ": Not a dir"), std::string::npos)
+        << platform.notifications[0];
     fs::remove(home / "Library");
     fs::create_directories(file());  // a folder in the file's place
-    EXPECT_FALSE(StateFile(home).write({}));
+    calculator.applicationWillTerminate();
     EXPECT_TRUE(fs::is_directory(copy("damaged")));
+    EXPECT_EQ(platform.notifications.size(), 1U);
 }
 
 // What is left out of a dictionary costs nothing that is beside it.

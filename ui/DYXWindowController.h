@@ -149,7 +149,8 @@ class DYXWindowController final : public DYXCalculator,
     // gives the paste up: the number would come in the midst of what the user does next.
     void paste();
 
-    // The saved state, in saved_state.cpp. What can't be read or written is passed over.
+    // The saved state, in saved_state.cpp. What can't be read is passed over; the user is told of a
+    // save that fails.
     void saveData();
     void loadData();
     void saveDocument() { saveData(); }

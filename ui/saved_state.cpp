@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "display/utf8.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
@@ -123,7 +124,18 @@ void DYXWindowController::openDrawers(const SavedState& state) {
     }
 }
 
-void DYXWindowController::saveData() { static_cast<void>(stateFile_.write(presentState())); }
+void DYXWindowController::saveData() {
+    const std::error_code error = stateFile_.write(presentState());
+    if (!error) {
+        return;
+    }
+    const std::string title = utf8(localized(u"The state could not be saved"));
+    const std::string reason = platform().NSHomeDirectory().empty()
+                                   ? utf8(localized(u"there is no home folder"))
+                                   : stateFile_.saveDataPath().string() + ": " + error.message();
+    platform().NSBeep();
+    platform().deliverNotification(title + ": " + reason);
+}
 
 void DYXWindowController::loadData() {
     if (const std::optional<SavedState> state = stateFile_.read()) {
