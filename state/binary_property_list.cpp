@@ -1,29 +1,22 @@
-#include <bit>
 #include <string>
 #include <utility>
 
-#include "display/utf8.h"
 #include "state/property_list_readers.h"
 
 namespace talvex {
 namespace {
 
 constexpr std::size_t kTrailerSize = 32;
+constexpr std::size_t kTopSize = 8;
 // One object can be the value of many keys.
 constexpr std::uint64_t kMostBytesOfObjects = 1 << 20;
 
-// The kinds of object, the upper half of its first byte; the lower half tells its size.
-enum Kind : unsigned {
-    constant = 0,
-    integer = 1,
-    real = 2,
-    data = 4,
-    ascii = 5,
-    utf16 = 6,
-    dictionary = 13
-};
+constexpr std::uint64_t kLastPlainKind = 6;
+constexpr std::uint64_t kDictionary = 13;
 
-// The flavour ends in a table of the places of its objects, and in a description of the table.
+// The flavour ends in a table of the places of its objects, and in a description of the table. The
+// library reads one object at a time, which is made the top one: it would go down into containers
+// without a limit, and give up everything for one object that it doesn't know.
 class BinaryReader {
   public:
     explicit BinaryReader(std::string_view bytes) : bytes_(bytes) {
@@ -31,129 +24,71 @@ class BinaryReader {
             const std::size_t trailer = bytes.size() - kTrailerSize;
             placeSize_ = number(trailer + 6, 1);
             referenceSize_ = number(trailer + 7, 1);
-            count_ = number(trailer + 8, 8);
-            top_ = number(trailer + 16, 8);
+            topPlace_ = trailer + 16;
             table_ = number(trailer + 24, 8);
         }
     }
 
-    [[nodiscard]] std::optional<PropertyListContent> read() const {
-        const std::optional<Object> top = objectAt(top_);
-        if (!top || top->kind != Kind::dictionary || referenceSize_ == 0 || referenceSize_ > 8 ||
-            top->size > (bytes_.size() - top->start) / (2 * referenceSize_)) {
-            return std::nullopt;
-        }
-        PropertyListContent content;
-        const auto objectOf = [&](std::uint64_t index) {
-            return objectAt(number(top->start + index * referenceSize_, referenceSize_));
-        };
-        std::uint64_t left = kMostBytesOfObjects;
-        for (std::uint64_t pair = 0; pair < top->size; ++pair) {
-            const std::optional<Object> key = objectOf(pair);
-            const std::optional<Object> value = objectOf(top->size + pair);
-            const std::uint64_t size = (key ? key->size : 0) + (value ? value->size : 0);
-            if (size > left) {
+    PropertyListContent read() {
+        const Object top = objectAt(placeOf(number(topPlace_, kTopSize)));
+        const bool isDictionary = top.kind == kDictionary && placeSize_ - 1 < 8 &&
+                                  referenceSize_ - 1 < 8 && top.start <= bytes_.size() &&
+                                  top.count <= (bytes_.size() - top.start) / (2 * referenceSize_);
+        PropertyListContent content{.values = {}, .isWhole = isDictionary};
+        for (std::uint64_t pair = 0; isDictionary && pair < top.count; ++pair) {
+            const auto key = valueAt(top.start + pair * referenceSize_);
+            auto value = valueAt(top.start + (top.count + pair) * referenceSize_);
+            const auto* const name = key ? std::get_if<std::string>(&*key) : nullptr;
+            if (name != nullptr && value) {
+                content.values.insert_or_assign(*name, std::move(*value));
+            } else {
                 content.isWhole = false;
-                break;
             }
-            left -= size;
-            readPair(key, value, content);
         }
         return content;
     }
 
   private:
     struct Object {
-        unsigned kind;
-        std::uint64_t start;  // of what follows its first byte and its length
-        std::uint64_t size;
+        std::uint64_t kind;
+        std::uint64_t start;  // of what follows its first byte and its count
+        std::uint64_t count;
     };
 
-    // Nothing where the object or its beginning isn't within the file.
-    [[nodiscard]] std::optional<Object> objectAt(std::uint64_t index) const {
-        if (placeSize_ == 0 || placeSize_ > 8 || index >= count_ || table_ >= bytes_.size() ||
-            index >= (bytes_.size() - table_) / placeSize_) {
-            return std::nullopt;
-        }
-        const std::uint64_t place = number(table_ + index * placeSize_, placeSize_);
-        if (place >= bytes_.size()) {
-            return std::nullopt;
-        }
+    // The upper half of the first byte is the kind, the lower half the count; a count of 15 or more
+    // is a number behind it.
+    [[nodiscard]] Object objectAt(std::uint64_t place) const {
         constexpr std::uint64_t kLong = 15;
-        const auto first = static_cast<unsigned>(number(place, 1));
-        Object object{.kind = first >> 4U, .start = place + 1, .size = first & kLong};
-        if (object.size == kLong && object.kind >= Kind::data) {
-            const std::uint64_t lengthSize = std::uint64_t{1} << (number(object.start, 1) & 3U);
-            object.size = number(object.start + 1, lengthSize);
-            object.start += 1 + lengthSize;
+        const std::uint64_t first = number(place, 1);
+        Object object{.kind = first >> 4U, .start = place + 1, .count = first & kLong};
+        if (object.count == kLong) {
+            const std::uint64_t size = std::uint64_t{1} << (number(object.start, 1) & 3U);
+            object.count = number(object.start + 1, size);
+            object.start += 1 + size;
         }
-        const bool isInside = object.start <= bytes_.size() && object.size <= bytes_.size();
-        return isInside ? std::optional(object) : std::nullopt;
+        return object;
     }
 
-    void readPair(const std::optional<Object>& key, const std::optional<Object>& value,
-                  PropertyListContent& content) const {
-        const std::optional<std::string> name = key ? textOf(*key) : std::nullopt;
-        std::optional<PropertyValue> plain = value ? valueOf(*value) : std::nullopt;
-        if (name && plain) {
-            content.values.insert_or_assign(*name, std::move(*plain));
-        } else {
-            content.isWhole = false;
-        }
+    [[nodiscard]] std::uint64_t placeOf(std::uint64_t object) const {
+        const bool isInside = table_ < bytes_.size() && object < bytes_.size();
+        return isInside ? number(table_ + object * placeSize_, placeSize_) : bytes_.size();
     }
 
-    [[nodiscard]] std::optional<PropertyValue> valueOf(const Object& object) const {
-        constexpr std::uint64_t kFalse = 8;
-        constexpr std::uint64_t kTrue = 9;
-        if (object.kind == Kind::constant && (object.size == kFalse || object.size == kTrue)) {
-            return object.size == kTrue;
-        }
-        if (object.kind == Kind::integer || object.kind == Kind::real) {
-            return numberOf(object);
-        }
-        if (object.kind == Kind::data && isInside(object.start, object.size)) {
-            const std::string_view bytes = bytes_.substr(object.start, object.size);
-            return PropertyData(bytes.begin(), bytes.end());
-        }
-        if (auto text = textOf(object)) {
-            return std::move(*text);
-        }
-        return std::nullopt;
-    }
-
-    // The size is a power of 2. Of an integer of 16 bytes the lower 8 count.
-    [[nodiscard]] std::optional<PropertyValue> numberOf(const Object& object) const {
-        const std::uint64_t size = object.size > 4 ? 0 : std::uint64_t{1} << object.size;
-        if (size == 0 || !isInside(object.start, size)) {
+    [[nodiscard]] std::optional<PropertyValue> valueAt(std::uint64_t reference) {
+        const std::uint64_t index = number(reference, referenceSize_);
+        const Object object = objectAt(placeOf(index));
+        if (object.kind > kLastPlainKind || object.count > left_) {
             return std::nullopt;
         }
-        const std::uint64_t bits = number(object.start, size);
-        if (object.kind == Kind::integer) {
-            return std::bit_cast<std::int64_t>(bits);
+        left_ -= object.count;
+        for (std::size_t byte = 0; byte < kTopSize; ++byte) {
+            bytes_[topPlace_ + byte] = static_cast<char>(index >> 8 * (kTopSize - 1 - byte));
         }
-        if (size == sizeof(float)) {
-            return double{std::bit_cast<float>(static_cast<std::uint32_t>(bits))};
-        }
-        return size == sizeof(double) ? std::optional<PropertyValue>(std::bit_cast<double>(bits))
-                                      : std::nullopt;
+        plist_t node = nullptr;
+        plist_from_bin(bytes_.data(), static_cast<std::uint32_t>(bytes_.size()), &node);
+        return plainValueOf(PlistOwner(node));
     }
 
-    [[nodiscard]] std::optional<std::string> textOf(const Object& object) const {
-        const std::uint64_t unit = object.kind == Kind::utf16 ? 2 : 1;
-        if ((object.kind != Kind::ascii && object.kind != Kind::utf16) ||
-            !isInside(object.start, object.size * unit)) {
-            return std::nullopt;
-        }
-        std::string text;
-        for (std::uint64_t index = 0; index < object.size; ++index) {
-            appendUtf8(text, static_cast<char16_t>(number(object.start + index * unit, unit)));
-        }
-        return text;
-    }
-
-    [[nodiscard]] bool isInside(std::uint64_t start, std::uint64_t size) const {
-        return start <= bytes_.size() && size <= bytes_.size() - start;
-    }
     // Most significant byte first; what lies behind the end counts as 0.
     [[nodiscard]] std::uint64_t number(std::uint64_t place, std::uint64_t size) const {
         std::uint64_t value = 0;
@@ -165,17 +100,17 @@ class BinaryReader {
         return value;
     }
 
-    std::string_view bytes_;
+    std::string bytes_;
     std::uint64_t placeSize_ = 0;
     std::uint64_t referenceSize_ = 0;
-    std::uint64_t count_ = 0;
-    std::uint64_t top_ = 0;
+    std::uint64_t topPlace_ = 0;
     std::uint64_t table_ = 0;
+    std::uint64_t left_ = kMostBytesOfObjects;
 };
 
 }  // namespace
 
-std::optional<PropertyListContent> readBinaryPropertyList(std::string_view bytes) {
+PropertyListContent readBinaryPropertyList(std::string_view bytes) {
     return BinaryReader(bytes).read();
 }
 

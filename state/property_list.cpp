@@ -1,10 +1,7 @@
 #include "state/property_list.h"
 
-#include <plist/plist.h>
-
 #include <bit>
 #include <memory>
-#include <span>
 #include <utility>
 
 #include "numeric/integer_conversion.h"
@@ -14,11 +11,6 @@
 
 namespace talvex {
 namespace {
-
-struct FreePlist {
-    void operator()(void* node) const { plist_free(static_cast<plist_t>(node)); }
-};
-using PlistOwner = std::unique_ptr<void, FreePlist>;
 
 struct FreeMemory {
     void operator()(char* memory) const { plist_to_xml_free(memory); }
@@ -40,14 +32,45 @@ struct MakeNode {
 
 }  // namespace
 
+std::optional<PropertyValue> plainValueOf(const PlistOwner& node) {
+    std::uint64_t length = 0;
+    switch (plist_get_node_type(node.get())) {
+        case PLIST_BOOLEAN: {
+            std::uint8_t value = 0;
+            plist_get_bool_val(node.get(), &value);
+            return value != 0;
+        }
+        case PLIST_UINT: {
+            std::uint64_t value = 0;
+            plist_get_uint_val(node.get(), &value);
+            return std::bit_cast<std::int64_t>(value);
+        }
+        case PLIST_REAL: {
+            double value = 0.0;
+            plist_get_real_val(node.get(), &value);
+            return value;
+        }
+        case PLIST_DATA: {
+            const char* const bytes = plist_get_data_ptr(node.get(), &length);
+            return bytes == nullptr ? PropertyData() : PropertyData(bytes, bytes + length);
+        }
+        case PLIST_STRING: {
+            const char* const text = plist_get_string_ptr(node.get(), &length);
+            return text == nullptr ? std::string() : std::string(text, length);
+        }
+        default:
+            return std::nullopt;
+    }
+}
+
 std::optional<PropertyListContent> readPropertyList(std::string_view bytes) {
     if (bytes.size() > kLargestPropertyList) {
         return std::nullopt;
     }
-    auto content = bytes.starts_with(kBinaryMagic) ? readBinaryPropertyList(bytes)
-                                                   : readXmlPropertyList(bytes);
-    return content && (content->isWhole || !content->values.empty()) ? std::move(content)
-                                                                     : std::nullopt;
+    PropertyListContent content = bytes.starts_with(kBinaryMagic) ? readBinaryPropertyList(bytes)
+                                                                  : readXmlPropertyList(bytes);
+    return content.isWhole || !content.values.empty() ? std::optional(std::move(content))
+                                                      : std::nullopt;
 }
 
 std::string writePropertyList(const PropertyDictionary& dictionary, PropertyListFlavour flavour) {

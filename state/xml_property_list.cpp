@@ -1,31 +1,30 @@
+#include <expat.h>
+
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <charconv>
 #include <string>
+#include <system_error>
+#include <type_traits>
 #include <utility>
 
-#include "display/utf8.h"
 #include "numeric/decimal_text.h"
 #include "state/property_list_readers.h"
-#include "state/xml_tokens.h"
 
 namespace talvex {
 namespace {
 
-// What some editors put ahead of a text.
-constexpr std::string_view kMarkOfUtf8 = "\xEF\xBB\xBF";
+constexpr std::string_view kXmlBlanks = " \t\r\n";
 
-// The mark ahead tells the order of the bytes.
-std::string utf8OfUtf16(std::string_view bytes) {
-    const std::size_t high = bytes.starts_with("\xFE\xFF") ? 0 : 1;
-    std::string text;
-    for (std::size_t place = 2; place + 1 < bytes.size(); place += 2) {
-        const auto byte = [&](std::size_t index) {
-            return static_cast<unsigned char>(bytes[place + index]);
-        };
-        appendUtf8(text, static_cast<char16_t>(byte(high) << 8U | byte(1 - high)));
-    }
-    return text;
+// The whole text as a number; nothing if it is none.
+template <class Number, class... Format>
+std::optional<Number> wholeNumber(std::string_view text, Format... format) {
+    Number number{};
+    const auto [end, error] =
+        std::from_chars(text.data(), text.data() + text.size(), number, format...);
+    const bool isWhole = error == std::errc() && end == text.data() + text.size();
+    return isWhole ? std::optional(number) : std::nullopt;
 }
 
 std::string_view trimmed(std::string_view text) {
@@ -38,16 +37,12 @@ std::string_view trimmed(std::string_view text) {
 std::optional<PropertyValue> integerIn(const std::string& text) {
     std::string_view number = trimmed(text);
     number.remove_prefix(number.starts_with('+') ? 1 : 0);
-    if (number.starts_with("0x") || number.starts_with("0X")) {
-        const auto bits = wholeNumber<std::uint64_t>(number.substr(2), 16);
-        return bits ? std::optional<PropertyValue>(std::bit_cast<std::int64_t>(*bits))
-                    : std::nullopt;
-    }
     if (const auto integer = wholeNumber<std::int64_t>(number)) {
         return *integer;
     }
-    const auto large = wholeNumber<std::uint64_t>(number);
-    return large ? std::optional<PropertyValue>(std::bit_cast<std::int64_t>(*large)) : std::nullopt;
+    const bool isHex = number.starts_with("0x") || number.starts_with("0X");
+    const auto bits = wholeNumber<std::uint64_t>(number.substr(isHex ? 2 : 0), isHex ? 16 : 10);
+    return bits ? std::optional<PropertyValue>(std::bit_cast<std::int64_t>(*bits)) : std::nullopt;
 }
 
 // Infinities and NaNs are written as words.
@@ -59,28 +54,17 @@ std::optional<PropertyValue> realIn(const std::string& text) {
     return real ? std::optional<PropertyValue>(*real) : std::nullopt;
 }
 
+// The added padding completes a last group that lacks its own.
 std::optional<PropertyValue> dataIn(const std::string& text) {
-    constexpr std::string_view kDigits =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    PropertyData data;
-    std::uint32_t bits = 0;
-    unsigned count = 0;
-    for (const char character : std::string_view(text).substr(0, text.find('='))) {
-        const std::size_t digit = kDigits.find(character);
-        if (digit == std::string_view::npos) {
-            if (kXmlBlanks.find(character) == std::string_view::npos) {
-                return std::nullopt;
-            }
-            continue;
-        }
-        bits = bits << 6U | static_cast<std::uint32_t>(digit);
-        count += 6;
-        if (count >= 8) {
-            count -= 8;
-            data.push_back(static_cast<std::uint8_t>(bits >> count));
-        }
+    constexpr std::string_view kAllowed =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/= \t\r\n";
+    if (text.find_first_not_of(kAllowed) != std::string::npos) {
+        return std::nullopt;
     }
-    return data;
+    const std::string padded = "<plist><data>" + text + "===</data></plist>";
+    plist_t node = nullptr;
+    plist_from_xml(padded.data(), static_cast<std::uint32_t>(padded.size()), &node);
+    return plainValueOf(PlistOwner(node));
 }
 
 struct Kind {
@@ -97,96 +81,114 @@ constexpr std::array<Kind, 6> kKinds{{
     {"false", [](const std::string& /*text*/) { return std::optional<PropertyValue>(false); }},
 }};
 
+using Parser = std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)>;
+
 class XmlReader {
   public:
-    explicit XmlReader(std::string_view bytes) : tokens_(bytes) {}
-
-    std::optional<PropertyListContent> read() {
-        XmlToken token = nextTag();
-        if (token.kind == XmlToken::Kind::start && token.name == "plist") {
-            token = nextTag();
+    // Behind a fault it goes on at the next key, unless that may belong to what is nested.
+    PropertyListContent read(std::string_view bytes) {
+        constexpr int kMostFaults = 100;
+        std::string_view head;
+        for (int faults = 0; faults < kMostFaults; ++faults) {
+            const std::size_t fault = parse(head, bytes);
+            if (isAtEnd_) {
+                break;
+            }
+            content_.isWhole = false;
+            const std::size_t next = bytes.find("<key>", std::max<std::size_t>(fault, 1));
+            if (next == std::string_view::npos || depth_ > dictionaryDepth_ + 1) {
+                break;
+            }
+            bytes.remove_prefix(next);
+            head = "<dict>";
         }
-        const bool isEmpty = token.kind == XmlToken::Kind::empty;
-        if (token.name != "dict" || (!isEmpty && token.kind != XmlToken::Kind::start)) {
-            return std::nullopt;
-        }
-        PropertyListContent content;
-        if (!isEmpty) {
-            readPairs(content);
-        }
-        return content;
+        return std::move(content_);
     }
 
   private:
-    XmlToken nextTag() {
-        XmlToken token = tokens_.next();
-        while (token.kind == XmlToken::Kind::text) {
-            token = tokens_.next();
-        }
-        return token;
-    }
-
-    void readPairs(PropertyListContent& content) {
-        std::optional<std::string> key;
-        for (XmlToken token = nextTag(); token.kind != XmlToken::Kind::end; token = nextTag()) {
-            if (token.kind == XmlToken::Kind::nothing) {
-                content.isWhole = false;
-                return;
-            }
-            if (token.name == "key") {
-                content.isWhole = content.isWhole && !key;
-                key = textOf(token);
-                continue;
-            }
-            const std::optional<PropertyValue> value = valueOf(token);
-            if (key && value) {
-                content.values.insert_or_assign(*key, *value);
-            }
-            content.isWhole = content.isWhole && key && value;
-            key.reset();
-        }
-        content.isWhole = content.isWhole && !key;
-    }
-
-    std::optional<PropertyValue> valueOf(const XmlToken& token) {
-        const std::optional<std::string> text = textOf(token);
-        const auto* const kind = std::find_if(kKinds.begin(), kKinds.end(), [&](const Kind& each) {
-            return each.name == token.name;
+    // The place where it ended.
+    std::size_t parse(std::string_view head, std::string_view bytes) {
+        depth_ = dictionaryDepth_ = 0;
+        key_.reset();
+        const Parser owner(XML_ParserCreate("UTF-8"), &XML_ParserFree);
+        parser_ = owner.get();
+        XML_SetUserData(parser_, this);
+        XML_SetElementHandler(
+            parser_, [](void* reader, const char* name, const char**) { self(reader).open(name); },
+            [](void* reader, const char*) { self(reader).close(); });
+        XML_SetCharacterDataHandler(parser_, [](void* reader, const char* text, int length) {
+            self(reader).text_.append(text, static_cast<std::size_t>(length));
         });
-        return text && kind != kKinds.end() ? kind->read(*text) : std::nullopt;
+        // With a handler for all else nothing stands in for an entity: it comes as it is written.
+        XML_SetDefaultHandler(parser_, [](void* reader, const char* text, int) {
+            self(reader).isText_ = self(reader).isText_ && *text != '&';
+        });
+        XML_UseForeignDTD(parser_, XML_TRUE);  // so that an unknown entity is no fault
+        XML_Parse(parser_, head.data(), static_cast<int>(head.size()), XML_FALSE);
+        XML_Parse(parser_, bytes.data(), static_cast<int>(bytes.size()), XML_TRUE);
+        const auto place = static_cast<std::size_t>(XML_GetCurrentByteIndex(parser_));
+        return place - head.size();
     }
 
-    // All up to the end of an element; nothing if there is more in it than text.
-    std::optional<std::string> textOf(const XmlToken& element) {
-        std::string text;
-        bool isText = true;
-        for (int depth = element.kind == XmlToken::Kind::empty ? 0 : 1; depth > 0;) {
-            const XmlToken token = tokens_.next();
-            if (token.kind == XmlToken::Kind::nothing) {
-                return std::nullopt;
-            }
-            isText = isText && token.isReadable &&
-                     (token.kind == XmlToken::Kind::text || token.kind == XmlToken::Kind::end);
-            depth += token.kind == XmlToken::Kind::start ? 1
-                     : token.kind == XmlToken::Kind::end ? -1
-                                                         : 0;
-            text += token.text;
+    static XmlReader& self(void* reader) { return *static_cast<XmlReader*>(reader); }
+
+    void open(std::string_view name) {
+        ++depth_;
+        isText_ = depth_ == dictionaryDepth_ + 1;
+        if (isText_ && dictionaryDepth_ != 0) {
+            element_ = name;
+            text_.clear();
+        } else if (dictionaryDepth_ == 0 && name == "dict") {
+            dictionaryDepth_ = depth_;
+        } else if (dictionaryDepth_ == 0 && (name != "plist" || depth_ != 1)) {
+            stop(false);
         }
-        return isText ? std::optional(text) : std::nullopt;
     }
 
-    XmlTokens tokens_;
+    void close() {
+        if (depth_ == dictionaryDepth_) {
+            stop(content_.isWhole && !key_);
+        } else if (depth_ == dictionaryDepth_ + 1) {
+            readElement();
+        }
+        --depth_;
+    }
+
+    void stop(bool isWhole) {
+        content_.isWhole = isWhole;
+        isAtEnd_ = true;
+        XML_StopParser(parser_, XML_FALSE);
+    }
+
+    void readElement() {
+        if (element_ == "key") {
+            content_.isWhole = content_.isWhole && !key_;
+            key_ = isText_ ? std::optional(text_) : std::nullopt;
+            return;
+        }
+        const auto* const kind = std::find_if(
+            kKinds.begin(), kKinds.end(), [&](const Kind& each) { return each.name == element_; });
+        const auto value = isText_ && kind != kKinds.end() ? kind->read(text_) : std::nullopt;
+        if (key_ && value) {
+            content_.values.insert_or_assign(*key_, *value);
+        }
+        content_.isWhole = content_.isWhole && key_ && value;
+        key_.reset();
+    }
+
+    XML_Parser parser_ = nullptr;
+    PropertyListContent content_;
+    bool isAtEnd_ = false;  // of the dictionary, or there is none
+    int depth_ = 0;
+    int dictionaryDepth_ = 0;  // once it was opened
+    std::optional<std::string> key_;
+    std::string element_;
+    std::string text_;
+    bool isText_ = false;  // there is nothing else in the element
 };
 
 }  // namespace
 
-std::optional<PropertyListContent> readXmlPropertyList(std::string_view bytes) {
-    if (bytes.starts_with("\xFE\xFF") || bytes.starts_with("\xFF\xFE")) {
-        const std::string text = utf8OfUtf16(bytes);
-        return XmlReader(text).read();
-    }
-    bytes.remove_prefix(bytes.starts_with(kMarkOfUtf8) ? kMarkOfUtf8.size() : 0);
-    return XmlReader(bytes).read();
-}
+PropertyListContent readXmlPropertyList(std::string_view bytes) { return XmlReader().read(bytes); }
 
 }  // namespace talvex

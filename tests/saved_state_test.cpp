@@ -323,6 +323,7 @@ TEST_F(SavedFile, ReadsWhatIsPlainBesideAllElse) {
                            {"<array/>"},
                            {"<dict><key>reg[0]</key><integer>9</integer></dict>"},
                            {"<string>&unknown;</string>"},
+                           {"<string>&a;</string>"},
                            {"<string>&#0;</string>"},
                            {"<integer>1<array/></integer>"},
                            {"<data>?</data>"},
@@ -330,8 +331,9 @@ TEST_F(SavedFile, ReadsWhatIsPlainBesideAllElse) {
                            {"<null/>"},
                            {""},
                            {deep, false, true},
-                           {"<string", false, true}}) {
-        const std::string start = "\xEF\xBB\xBF<?xml?><!DOCTYPE p [<!ENTITY a 'b'>]><plist><dict>";
+                           {"<string"}}) {
+        const std::string start =
+            "\xEF\xBB\xBF<?xml version='1.0'?><!DOCTYPE p [<!ENTITY a 'b'>]><plist><dict>";
         const auto content =
             readPropertyList(start + "<key>reg[0]</key><integer> +7 </integer>" + "<key>z</key>" +
                              row.value + "<key>reg[1]</key><real>-1e1</real></dict></plist>");

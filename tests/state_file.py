@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Looks at the saved state from outside: with another reader and writer of property lists, with a
 program that is killed while it writes, and with disks that fail. Usage: state_file.py STATE_TOOL"""
+import datetime
 import errno
 import os
 import pathlib
@@ -86,6 +87,19 @@ class StateFile(unittest.TestCase):
             self.put(plistlib.dumps(state, fmt=flavour))
             self.assertEqual(self.rewrite(), 0)
             self.assertEqual(plistlib.loads(self.file.read_bytes()), state)
+
+    def test_what_is_unknown_costs_nothing_beside_it(self):
+        nested = []
+        for _ in range(200):
+            nested = [nested, {"reg[0]": nested}]
+        odd = [nested, plistlib.UID(7), datetime.datetime(2001, 1, 1), "\U0001F5A9\xe9"]
+        for content in [plistlib.dumps(full_state(1.5) | {"angle\0Mode": None}, fmt=plistlib.FMT_BINARY),
+                        plistlib.dumps(full_state(1.5)).decode().encode("utf-16"),
+                        *(plistlib.dumps(full_state(1.5) | {"helpTag2": value, "a": value},
+                                         fmt=plistlib.FMT_BINARY) for value in odd)]:
+            self.put(content)
+            self.assertEqual(self.rewrite(), 0)
+            self.assertEqual(plistlib.loads(self.file.read_bytes()), full_state(1.5))
 
     def test_a_kill_at_any_moment_leaves_a_whole_state(self):
         wholes = {data(1.0), data(2.0)}
