@@ -144,7 +144,7 @@ void HelpWidget::comeIntoSight() {
 void HelpWidget::addShortcuts() {
     const auto add = [this](const QKeySequence& key, void (DYXWindowController::*action)()) {
         connect(new QShortcut(key, this), &QShortcut::activated, this,
-                [this, action] { (controller_.*action)(); });
+                [&controller = controller_, action] { (controller.*action)(); });
     };
     add(QKeySequence::ZoomIn, &DYXWindowController::takeMakeHelpTextLargerFrom);
     add(Qt::CTRL | Qt::Key_Equal, &DYXWindowController::takeMakeHelpTextLargerFrom);
