@@ -1,38 +1,15 @@
 // A saved state with any values is loaded, shown and used; what the end of the program saves comes
 // back as the same at the next start.
 
-#include <unistd.h>
-
 #include <array>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include "PrivateHome.h"
 #include "calculator_actions.h"
-#include "state/StateFile.h"
 
 namespace talvex {
 namespace {
-
-namespace fs = std::filesystem;
-
-// A home folder for as long as the fuzzer runs.
-class Home {
-  public:
-    Home() : folder_((fs::temp_directory_path() / "talvex-fuzz-XXXXXX").string()) {
-        require(::mkdtemp(folder_.data()) != nullptr);
-        fs::create_directories(file().parent_path());
-    }
-    Home(const Home&) = delete;
-    Home& operator=(const Home&) = delete;
-    ~Home() { fs::remove_all(folder_); }
-
-    [[nodiscard]] const std::string& folder() const { return folder_; }
-    [[nodiscard]] fs::path file() const { return StateFile(folder_).saveDataPath(); }
-
-  private:
-    std::string folder_;
-};
 
 PropertyValue anyValue(FuzzInput& input) {
     switch (input.take<std::uint8_t>() % 6) {
@@ -83,7 +60,7 @@ PropertyDictionary anyProperties(FuzzInput& input) {
     return properties;
 }
 
-PropertyDictionary savedBy(DYXWindowController& calculator, const Home& home) {
+PropertyDictionary savedBy(DYXWindowController& calculator, const PrivateHome& home) {
     calculator.applicationWillTerminate();
     const auto state = StateFile(home.folder()).read();
     require(state.has_value());
@@ -97,7 +74,7 @@ PropertyDictionary savedBy(DYXWindowController& calculator, const Home& home) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace talvex;
-    static const Home home;
+    static const PrivateHome home;
     FuzzInput input({data, size});
     const auto flavour = input.take<std::uint8_t>() % 2 == 0 ? PropertyListFlavour::xml
                                                              : PropertyListFlavour::binary;
