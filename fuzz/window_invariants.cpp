@@ -80,9 +80,9 @@ bool isStatusFieldShownWithItsStrip(WindowSession& session) {
            !session.controller.views().keyPad.view()->statusField()->isHidden();
 }
 
-bool isKeyboardWithSomethingInSight(WindowSession& /*session*/) {
+bool isKeyboardWithSomethingInSight(WindowSession& session) {
     const QWidget* const focused = QApplication::focusWidget();
-    return focused == nullptr || focused->isVisible();
+    return !session.window.isAncestorOf(focused) || focused->isVisible();
 }
 
 bool isHelpShownAsRecorded(WindowSession& session) {
