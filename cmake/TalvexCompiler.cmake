@@ -10,7 +10,9 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
 find_program(TALVEX_CCACHE ccache)
 if(TALVEX_CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${TALVEX_CCACHE})
+    # What was compiled in one checkout serves the others, too.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
+        CCACHE_NOHASHDIR=1 ${TALVEX_CCACHE})
 endif()
 
 add_library(talvex_compiler INTERFACE)

@@ -23,6 +23,8 @@ function(talvex_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;DEPENDS;ENVIRONMENT")
     add_executable(${name} ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    # What is tested is optimised; what tests it needs not be.
+    target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>)
     target_link_libraries(${name} PRIVATE talvex_compiler GTest::gtest_main)
     foreach(dependency IN LISTS arg_DEPENDS)
         target_link_libraries(${name} PRIVATE talvex::${dependency})
