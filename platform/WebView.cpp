@@ -12,8 +12,8 @@ void WebView::loadRequest(std::u16string url) {
     }
 }
 
-void WebView::changeText(int steps) {
-    const int wanted = std::clamp(textSteps_ + steps, kSmallestText, kLargestText);
+void WebView::setTextSteps(int steps) {
+    const int wanted = std::clamp(steps, kSmallestText, kLargestText);
     if (wanted != std::exchange(textSteps_, wanted) && observer_ != nullptr) {
         observer_->webViewDidChangeTextSize();
     }

@@ -35,8 +35,8 @@ class WebView {
     void loadRequest(std::u16string url);
 
     [[nodiscard]] int textSteps() const { return textSteps_; }
-    void makeTextLarger() { changeText(1); }
-    void makeTextSmaller() { changeText(-1); }
+    // Steps beyond the range count as its end.
+    void setTextSteps(int steps);
 
     using Policy = std::function<void(const std::u16string& url, WebPolicyDecisionListener&)>;
     void setPolicyDelegate(Policy policy) { policy_ = std::move(policy); }
@@ -46,8 +46,6 @@ class WebView {
     void setObserver(WebViewObserver* observer) { observer_ = observer; }
 
   private:
-    void changeText(int steps);
-
     std::u16string requestedURL_;
     int textSteps_ = 0;
     Policy policy_;

@@ -82,14 +82,12 @@ void DrawerWidget::drawerDidChange(const NSDrawer& /*drawer*/) {
         return;
     }
     const double target = record_.isOpenOrOpening() ? fullDepth() : 0.0;
-    if (drag_) {
-        standAt(target);
-    } else if (depth_ != target) {
-        slideTo(target);
-        place();
-    } else {
+    if (drag_ || depth_ == target) {
         standAt(target);
         record_.finishSliding();
+    } else {
+        slideTo(target);
+        place();
     }
 }
 

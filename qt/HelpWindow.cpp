@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
+#include <utility>
 
 #include "qt/conversions.h"
 #include "qt/palette.h"
@@ -60,14 +61,7 @@ HelpBrowser::HelpBrowser(WebView& record, QWidget* parent) : QTextBrowser(parent
     takeTextSize();
 }
 
-void HelpBrowser::loadRequested() {
-    const QUrl url(toQString(record_.requestedURL()));
-    if (url == source()) {
-        reload();
-    } else {
-        setSource(url);
-    }
-}
+void HelpBrowser::loadRequested() { setSource(QUrl(toQString(record_.requestedURL()))); }
 
 void HelpBrowser::takeTextSize() {
     const double size = kTextSize + record_.textSteps();
@@ -205,10 +199,22 @@ HelpPresenter::~HelpPresenter() {
 void HelpPresenter::windowDidChange(const NSWindow& window) {
     if (window.isVisible() && !widget_) {
         widget_ = std::make_unique<HelpWidget>(controller_);
-        webViewDidLoad();
     }
     if (widget_) {
         widget_->followRecord();
+        showRequestedPage();
+    }
+}
+
+// A page is laid out for the width that the window has, and only while somebody can see it.
+void HelpPresenter::showRequestedPage() {
+    if (!widget_ || !widget_->isVisible()) {
+        return;
+    }
+    widget_->browser().takeTextSize();
+    if (std::exchange(isPageRequested_, false)) {
+        widget_->browser().loadRequested();
+        widget_->followPage(widget_->browser().source());
     }
 }
 
@@ -247,14 +253,12 @@ void HelpPresenter::windowDidOrderFront(const NSWindow& /*window*/) {
 }
 
 void HelpPresenter::webViewDidLoad() {
-    if (widget_) {
-        widget_->browser().loadRequested();
-        widget_->followPage(widget_->browser().source());
-    }
+    isPageRequested_ = true;
+    showRequestedPage();
 }
 
 void HelpPresenter::webViewDidChangeTextSize() {
-    if (widget_) {
+    if (widget_ && widget_->isVisible()) {
         widget_->browser().takeTextSize();
     }
 }

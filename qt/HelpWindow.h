@@ -74,8 +74,11 @@ class HelpPresenter final : public NSWindowObserver, public WebViewObserver {
     [[nodiscard]] HelpWidget* widget() { return widget_.get(); }
 
   private:
+    void showRequestedPage();
+
     DYXWindowController& controller_;
     std::unique_ptr<HelpWidget> widget_;
+    bool isPageRequested_ = true;
 };
 
 }  // namespace talvex

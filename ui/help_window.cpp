@@ -61,14 +61,7 @@ void DYXWindowController::showHelpFor(std::u16string_view command) {
 }
 
 void DYXWindowController::setHelpViewTextToSize(std::int32_t size) {
-    WebView& view = views_->help.webView;
-    const int shown = std::clamp<int>(size, WebView::kSmallestText, WebView::kLargestText);
-    while (view.textSteps() > shown) {
-        view.makeTextSmaller();
-    }
-    while (view.textSteps() < shown) {
-        view.makeTextLarger();
-    }
+    views_->help.webView.setTextSteps(size);
     helpViewTextSize_ = size;
 }
 
