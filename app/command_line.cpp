@@ -21,7 +21,7 @@ Scientific calculator in Reverse Polish notation. F1 opens the help, F10 the men
   -platform NAME  Open the window by way of xcb or wayland, instead of the first that is there.
   -style NAME     Draw menus and the help in a style of the toolkit, such as fusion or windows.
 
-Other options of the toolkit, such as -geometry, are handed to it.
+Other options of the toolkit, such as -name, are handed to it.
 )";
 
 constexpr auto kVersion = "talvex " TALVEX_VERSION "\n";
@@ -93,11 +93,14 @@ std::optional<int> answerCommandLine(std::span<const char* const> arguments) {
             return tell(kVersion);
         }
         const std::size_t count = takenByToolkit(argument);
-        if (count == 0) {
+        if (count == 0 || index + count > arguments.size()) {
             const std::string sentence = "talvex: there is no option \"" + std::string(argument) +
                                          "\"; talvex --help tells what options there are\n";
             std::fputs(sentence.c_str(), stderr);
             return kWrongUsage;
+        }
+        if (argument.ends_with("-display")) {
+            ::setenv("DISPLAY", arguments[index + 1], 1);
         }
         index += count;
     }

@@ -4,11 +4,13 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "command_line.h"
 #include "qt/CalculatorWindow.h"
 #include "qt/HelpWindow.h"
 #include "qt/QtPlatform.h"
+#include "qt/notification.h"
 #include "qt/window_icon.h"
 #include "termination_signals.h"
 #include "ui/DYXWindowController.h"
@@ -27,6 +29,10 @@ void tellOfMissingScreen(QtMsgType type, const QMessageLogContext& /*context*/,
 }  // namespace
 
 int main(int argc, char** argv) {
+    // For the program's own use.
+    if (argc == 3 && std::string_view(argv[1]) == "--notify") {
+        return talvex::showNotification(argv[2]);
+    }
     if (const auto status = talvex::answerCommandLine({argv, static_cast<std::size_t>(argc)})) {
         return *status;
     }

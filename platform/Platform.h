@@ -79,7 +79,8 @@ class PasteboardPort {
 
     using PasteboardAnswer = std::function<void(const PasteboardText&)>;
     // Asks for the text on the general pasteboard. The answer comes once, at once or from the event
-    // loop within half a second; that to an earlier request, if it is still to come, never does.
+    // loop within half a second; that to an earlier request, if it is still to come, never does. On
+    // Wayland it takes as long as the program that has the text.
     virtual void requestPasteboardString(PasteboardAnswer answer) = 0;
     // The request under way, if there is one, gets no answer.
     virtual void dropPasteboardRequest() = 0;

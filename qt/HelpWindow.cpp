@@ -93,6 +93,15 @@ void HelpBrowser::changeEvent(QEvent* event) {
     }
 }
 
+// With Ctrl the wheel sets the size of the text, which is the window's business.
+void HelpBrowser::wheelEvent(QWheelEvent* event) {
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        event->ignore();
+    } else {
+        QTextBrowser::wheelEvent(event);
+    }
+}
+
 HelpWidget::HelpWidget(DYXWindowController& controller)
     : QWidget(nullptr, Qt::Window),
       controller_(controller),
@@ -172,6 +181,15 @@ void HelpWidget::followPage(const QUrl& url) {
 void HelpWidget::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
     controller_.views().help.window.orderOut();
+}
+
+void HelpWidget::wheelEvent(QWheelEvent* event) {
+    const int way = event->angleDelta().y();
+    if (way > 0) {
+        controller_.takeMakeHelpTextLargerFrom();
+    } else if (way < 0) {
+        controller_.takeMakeHelpTextSmallerFrom();
+    }
 }
 
 void HelpWidget::tellPlace() {

@@ -21,6 +21,7 @@ class HelpBrowser final : public QTextBrowser {
 
   protected:
     QVariant loadResource(int type, const QUrl& name) override;
+    void wheelEvent(QWheelEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
@@ -40,6 +41,7 @@ class HelpWidget final : public QWidget {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

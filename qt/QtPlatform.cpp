@@ -2,13 +2,12 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDesktopServices>
 #include <QDir>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QMimeData>
+#include <QProcess>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QUrl>
@@ -41,10 +40,12 @@ std::uint32_t groupingSizeOf(const QLocale& locale) {
 }
 
 PasteboardText textOf(const QMimeData* data) {
+    constexpr auto kLongest = static_cast<qsizetype>(PasteboardPort::kLongestPasteboardText);
     if (data == nullptr || !data->hasText()) {
         return {};
     }
-    return {.outcome = PasteboardOutcome::text, .text = data->text().toStdU16String()};
+    return {.outcome = PasteboardOutcome::text,
+            .text = data->text().left(kLongest).toStdU16String()};
 }
 
 }  // namespace
@@ -60,23 +61,15 @@ QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::NSBeep() { QApplication::beep(); }
 
+// A bus that hangs would hold up the program; so another process talks to it. Where none is told,
+// the library would start one.
 void QtPlatform::deliverNotification(const std::string& text) {
     std::fprintf(stderr, "talvex: %s\n", text.c_str());
-    // Asked for without one, the library starts a bus of its own.
-    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
-        return;
+    if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
+        QProcess::startDetached(
+            QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("talvex")),
+            {QStringLiteral("--notify"), QString::fromStdString(text)});
     }
-    constexpr int kPatience = 1000;  // milliseconds, since the program may be about to end
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.Notifications"),
-        QStringLiteral("/org/freedesktop/Notifications"),
-        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
-    constexpr uint kReplacesNone = 0;
-    constexpr int kUsualTime = -1;
-    message << QStringLiteral("Talvex") << kReplacesNone << QGuiApplication::desktopFileName()
-            << QStringLiteral("Talvex") << QString::fromStdString(text).toHtmlEscaped()
-            << QStringList() << QVariantMap() << kUsualTime;
-    QDBusConnection::sessionBus().call(message, QDBus::Block, kPatience);
 }
 
 void QtPlatform::NSLog(const std::u16string& line) {

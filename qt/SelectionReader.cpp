@@ -217,6 +217,10 @@ void SelectionReader::takeWhole(const Property& property) {
 void SelectionReader::takePiece(const Property& property) {
     transfer_->bytes += property.bytes;
     const bool isLongEnough = transfer_->bytes.size() == kMostBytes;
+    if (property.type == XCB_ATOM_NONE) {
+        finishWith({});
+        return;
+    }
     if (!property.isEmpty && !isLongEnough) {
         deletePropertyOf(transfer_->window);
         return;

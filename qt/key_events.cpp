@@ -38,6 +38,7 @@ constexpr auto kModifierKeys = std::to_array<std::pair<int, std::uint32_t>>({
     {Qt::Key_Alt, NSAlternateKeyMask},
     {Qt::Key_Meta, NSCommandKeyMask},
     {Qt::Key_Super_L, NSCommandKeyMask},
+    {Qt::Key_Super_R, NSCommandKeyMask},
 });
 
 // Alt pressed while Shift is held has a keysym of its own, which the toolkit calls Meta.
@@ -68,6 +69,13 @@ constexpr int kFirstSpecialKey = 0x01000000;
 
 bool isPrintable(char32_t character) {
     return character > U' ' && character != 0x7F && character <= kLastOfPlane0;
+}
+
+std::optional<std::uint32_t> modifierFlagOf(const QKeyEvent& event) {
+    const auto byKeysym = event.modifiers().testFlag(Qt::ShiftModifier)
+                              ? find(kModifierKeysyms, event.nativeVirtualKey())
+                              : std::nullopt;
+    return byKeysym ? byKeysym : find(kModifierKeys, event.key());
 }
 
 std::uint32_t flagsLackedBy(Qt::KeyboardModifiers modifiers) {
@@ -106,12 +114,15 @@ std::optional<char16_t> characterOfKey(const QKeyEvent& event) {
 }
 
 // The modifiers that come with a modifier key don't count for its own flag: while both keys of a
-// pair are held they are wrong.
+// pair are held they are wrong. A modifier that comes with another key was latched if it isn't
+// held, and ends with that key's release.
 bool HeldModifiers::take(const QKeyEvent& event) {
-    auto flag = find(kModifierKeysyms, event.nativeVirtualKey());
-    flag = flag ? flag : find(kModifierKeys, event.key());
+    const std::optional<std::uint32_t> flag = modifierFlagOf(event);
     const std::uint32_t before = flags();
     drop(flagsLackedBy(event.modifiers()) & ~flag.value_or(0));
+    if (!flag && event.type() == QEvent::KeyPress) {
+        add(event.modifiers());
+    }
     if (!flag || event.isAutoRepeat()) {
         return flags() != before;
     }
@@ -145,12 +156,17 @@ bool HeldModifiers::clear() {
 bool HeldModifiers::adopt(Qt::KeyboardModifiers modifiers) {
     const std::uint32_t before = flags();
     held_.clear();
+    add(modifiers);
+    return flags() != before;
+}
+
+void HeldModifiers::add(Qt::KeyboardModifiers modifiers) {
+    const std::uint32_t held = flags();
     for (const auto& [state, flag] : kModifierStates) {
-        if (modifiers.testFlag(state)) {
+        if (modifiers.testFlag(state) && (held & flag) == 0) {
             held_[-std::int64_t{flag}] = flag;
         }
     }
-    return flags() != before;
 }
 
 std::uint32_t HeldModifiers::flags() const {

@@ -17,7 +17,7 @@ namespace talvex {
 // which is wrong while both keys of a pair are held.
 class HeldModifiers {
   public:
-    // Takes the press or release of any key, which also says which modifier keys are up, and
+    // Takes the press or release of any key, which also says which modifiers it comes with, and
     // answers whether the flags changed.
     bool take(const QKeyEvent& event);
     // Forgets keys whose release was never heard of: those of flags that these modifiers lack.
@@ -34,6 +34,7 @@ class HeldModifiers {
 
   private:
     void drop(std::uint32_t flags);
+    void add(Qt::KeyboardModifiers modifiers);
 
     std::map<std::int64_t, std::uint32_t> held_;  // flag by scan code, or by minus the flag
 };

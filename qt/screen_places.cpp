@@ -70,8 +70,10 @@ void whenScreensChange(QObject& context, const std::function<void()>& action) {
     const QList<QScreen*> screens = QGuiApplication::screens();
     std::for_each(screens.begin(), screens.end(), watch);
     QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &context, watch);
-    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &context, action,
-                     Qt::QueuedConnection);
+    for (const auto change : {&QGuiApplication::screenAdded, &QGuiApplication::screenRemoved,
+                              &QGuiApplication::primaryScreenChanged}) {
+        QObject::connect(qGuiApp, change, &context, action, Qt::QueuedConnection);
+    }
 }
 
 }  // namespace talvex

@@ -43,9 +43,9 @@ Places placesFor(const fs::path& path, std::string_view word, const FileContent&
         } else if (present.isSameFile(original) || holds(copy, content)) {
             places.isKeptAlready = true;
         } else if (present.isPlainFile() &&
-                   (!places.oldest || isEarlier(present.status.st_mtim, oldest))) {
+                   (!places.oldest || isEarlier(present.status.st_ctim, oldest))) {
             places.oldest = copy;
-            oldest = present.status.st_mtim;
+            oldest = present.status.st_ctim;  // when it was given this name
         }
     }
     return places;

@@ -147,6 +147,7 @@ void DYXWindowController::loadData() {
 }
 
 void DYXWindowController::revertDocumentToSaved() {
+    giveUpPaste();
     loadData();
     updateLabels();
     showStatusLines();
