@@ -2,6 +2,7 @@
 
 #include <array>
 #include <bit>
+#include <cfloat>
 #include <cmath>
 #include <limits>
 
@@ -9,48 +10,15 @@ namespace talvex {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-constexpr std::array kThresholds{0.0,
-                                 0.5,
-                                 1.0,
-                                 2.0,
-                                 3.0,
-                                 6.0,
-                                 20.0,
-                                 21.0,
-                                 32.0,
-                                 50.0,
-                                 90.0,
-                                 100.0,
-                                 170.0,
-                                 171.0,
-                                 180.0,
-                                 299.0,
-                                 300.0,
-                                 515.0,
-                                 709.0,
-                                 746.0,
-                                 1029.0,
-                                 1030.0,
-                                 1064.18,
-                                 9800.0,
-                                 9846.0,
-                                 1e9,
-                                 2147483647.0,
-                                 2147483648.0,
-                                 4294967295.0,
-                                 4294967296.0,
-                                 1e15,
-                                 1e300,
-                                 1e-300,
-                                 3.141592653589793,
-                                 1.5707963267948966,
-                                 0.017453292519943295,
-                                 2.2250738585072014e-308,
-                                 5e-324,
-                                 1.7976931348623157e308,
-                                 kInfinity,
-                                 std::numeric_limits<double>::quiet_NaN()};
+constexpr std::array kThresholds{
+    0.0,          0.5,          1.0,          2.0,     3.0,       6.0,          20.0,
+    21.0,         32.0,         50.0,         90.0,    100.0,     170.0,        171.0,
+    180.0,        299.0,        300.0,        515.0,   709.0,     746.0,        1029.0,
+    1030.0,       1064.18,      9800.0,       9846.0,  1e9,       2147483647.0, 2147483648.0,
+    4294967295.0, 4294967296.0, 1e15,         1e300,   1e-300,    M_PI,         M_PI_2,
+    M_PI / 180.0, DBL_MIN,      DBL_TRUE_MIN, DBL_MAX, kInfinity, kNaN};
 
 }  // namespace
 

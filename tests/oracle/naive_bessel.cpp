@@ -1,5 +1,6 @@
 // Steed's method step by step, with the names of the published formulas, every loop to its end.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
@@ -12,6 +13,8 @@ namespace {
 constexpr double EPS = 1e-16, FPMIN = 1e-30, PI = 3.141592653589793;
 constexpr int MAXIT = 10000;
 
+double floored(double value) { return std::fabs(value) < FPMIN ? FPMIN : value; }
+
 struct Steed {
     double x, nu;
     std::int64_t nl = 0;
@@ -21,10 +24,7 @@ struct Steed {
     double rjmu = 0, rymu = 0, ry1 = 0;
 
     void prepare() {
-        nl = toInt32(x < 2.0 ? nu + 0.5 : nu - x + 1.5);
-        if (!(x < 2.0) && nl < 0) {
-            nl = 0;
-        }
+        nl = x < 2.0 ? toInt32(nu + 0.5) : std::max(toInt32(nu - x + 1.5), 0);
         mu = nu - static_cast<double>(nl);
         mu2 = mu * mu;
         xi = 1 / x;
@@ -33,28 +33,15 @@ struct Steed {
     }
 
     bool cf1() {
-        h = nu * xi;
-        if (h < FPMIN) {
-            h = FPMIN;
-        }
-        double b = xi2 * nu, d = 0, c = h, del = 0;
+        h = std::max(nu * xi, FPMIN);
+        double b = xi2 * nu, d = 0, c = h;
         for (int i = 0; i < MAXIT; ++i) {
             b = b + xi2;
-            d = b - d;
-            if (std::fabs(d) < FPMIN) {
-                d = FPMIN;
-            }
-            c = b - 1 / c;
-            if (std::fabs(c) < FPMIN) {
-                c = FPMIN;
-            }
-            d = 1 / d;
-            del = c * d;
-            h = del * h;
-            if (d < 0) {
-                isign = -isign;
-            }
-            if (std::fabs(del - 1) < EPS) {
+            d = 1 / floored(b - d);
+            c = floored(b - 1 / c);
+            h = c * d * h;
+            isign = d < 0 ? -isign : isign;
+            if (std::fabs(c * d - 1) < EPS) {
                 return true;
             }
         }
@@ -63,10 +50,9 @@ struct Steed {
 
     void down() {
         rjl = isign * FPMIN;
-        double rjpl = h * rjl;
+        double rjpl = h * rjl, fact = nu * xi;
         rjl1 = rjl;
         rjp1 = rjpl;
-        double fact = nu * xi;
         for (std::int64_t l = nl; l >= 1; --l) {
             const double rjtemp = fact * rjl + rjpl;
             fact = fact - xi;
@@ -115,13 +101,19 @@ struct Steed {
         double a = 0.25 - mu2, p = -0.5 * xi, q = 1, bi = 2;
         const double br = 2 * x;
         double fact = a * xi / (p * p + q * q);
-        double cr = br + q * fact, ci = bi + p * fact, den = br * br + bi * bi;
-        double dr = br / den, di = -bi / den;
-        double dlr = cr * dr - ci * di, dli = cr * di + ci * dr;
-        double temp = p * dlr - q * dli;
-        q = p * dli + q * dlr;
-        p = temp;
-        for (int i = 2; i <= MAXIT; ++i) {
+        double cr = br + q * fact, ci = bi + p * fact, dr = br, di = bi;
+        for (int i = 2; i <= MAXIT + 1; ++i) {
+            const double den = dr * dr + di * di;
+            dr = dr / den;
+            di = di / -den;
+            const double dlr = cr * dr - ci * di, dli = cr * di + ci * dr;
+            const double last = p;
+            p = last * dlr - q * dli;
+            q = last * dli + q * dlr;
+            if (i > 2 && std::fabs(dlr - 1) + std::fabs(dli) < EPS) {
+                finish(p, q);
+                return true;
+            }
             a = a + 2.0 * (i - 1);
             bi = bi + 2;
             dr = a * dr + br;
@@ -135,28 +127,14 @@ struct Steed {
             if (std::fabs(cr) + std::fabs(ci) < FPMIN) {
                 cr = FPMIN;
             }
-            den = dr * dr + di * di;
-            dr = dr / den;
-            di = di / -den;
-            dlr = cr * dr - ci * di;
-            dli = cr * di + ci * dr;
-            temp = p * dlr - q * dli;
-            q = p * dli + q * dlr;
-            p = temp;
-            if (std::fabs(dlr - 1) + std::fabs(dli) < EPS) {
-                finish(p, q);
-                return true;
-            }
         }
         return false;
     }
 
     void finish(double p, double q) {
         const double gam = (p - f) / q;
-        rjmu = std::sqrt(w / ((p - f) * gam + q));
-        if (!(rjl >= 0)) {
-            rjmu = -rjmu;
-        }
+        const double size = std::sqrt(w / ((p - f) * gam + q));
+        rjmu = rjl >= 0 ? size : -size;
         rymu = rjmu * gam;
         const double rymup = rymu * (p + q / gam);
         ry1 = mu * xi * rymu - rymup;
