@@ -47,17 +47,14 @@ class Corpora {
     int count_ = 0;
 };
 
-const std::array<const std::vector<FormatRow>*, mode::count> kModeRows{
-    &kFIXRows, &kSCIRows, &kENGRows, &kMONRows, &kFRCRows, &kCARRows, &kHMSRows,
-    &kDMSRows, &kHEXRows, &kDECRows, &kOCTRows, &kBINRows, &kIRRRows};
-
 // The bytes that make `display_fuzz` show the row.
-std::string displayInput(std::size_t mode, const FormatRow& row) {
+std::string displayInput(const FormatTable& table, const Row& row) {
     std::string bytes;
-    append(bytes, static_cast<std::uint8_t>(mode));
+    append(bytes, static_cast<std::uint8_t>(table.mode));
     append(bytes, row.digits * 4 + 1);
-    for (const int choice : {row.point == u'.' ? 0 : 1, 1, 1, 3, row.reducesFractions ? 0 : 1,
-                             row.displaysIrrationals ? 0 : 1, 0}) {
+    const FormatStyle& style = table.style;
+    for (const int choice : {style.point == u'.' ? 0 : 1, 1, 1, 3, style.reducesFractions ? 0 : 1,
+                             style.displaysIrrationals ? 0 : 1, 0}) {
         append(bytes, static_cast<std::uint8_t>(choice));
     }
     append(bytes, row.number);
@@ -65,11 +62,11 @@ std::string displayInput(std::size_t mode, const FormatRow& row) {
 }
 
 void addModes(Corpora& corpora) {
-    for (std::size_t mode = 0; mode < kModeRows.size(); ++mode) {
-        for (const FormatRow& row : *kModeRows.at(mode)) {
-            corpora.add("display_fuzz", displayInput(mode, row));
+    for (const FormatTable& table : kFormatTables) {
+        for (const Row& row : table.rows) {
+            corpora.add("display_fuzz", displayInput(table, row));
             std::string text;
-            append(text, static_cast<std::int8_t>(mode));
+            append(text, static_cast<std::int8_t>(table.mode));
             append(text, std::uint8_t{0});
             append(text, row.number);
             corpora.add("text_fuzz", text + shortestText(row.number));

@@ -1,93 +1,130 @@
-// What each mode makes of a number: a suite for each mode.
+// What each mode makes of a number, and the digit groups.
 
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include <limits>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "core/DYXCalculator.h"
-#include "display/display_modes.h"
+#include "display/DYXOutputDisplay.h"
+#include "display/ZUMutableStringExtensions.h"
 #include "display_format_tables.h"
+#include "numeric/DYXnan.h"
+#include "shown_line.h"
 
 namespace talvex {
 namespace {
 
-// A negative number differs by its sign slot alone, but for the modes that wrap or warn.
+using Text = std::u16string;
+
+// The modes that neither wrap a negative number nor warn of it.
 bool hasSignSlot(std::int32_t mode) { return mode <= mode::CAR || mode == mode::IRR; }
 
-// A mode and a row of its table.
-struct Case {
-    std::int32_t mode;
-    FormatRow row;
-};
-
-void PrintTo(const Case& item, std::ostream* out) {
-    *out << item.row.number << " at " << item.row.digits << " digits";
+Shown shownIn(std::int32_t mode, const Row& row) {
+    Shown shown{row.mantissa};
+    if (hasSignSlot(mode) && row.mantissa.front() == u'-') {
+        shown.mantissa.erase(0, 1);
+        shown.sign = u"-";
+    }
+    if (isIntegerMode(mode)) {
+        const Text names[]{u"hex", u"dec", u"oct", u"bin"};
+        shown.exponent = names[mode - mode::HEX];
+        shown.status = row.rest;
+    } else if (row.rest == u"exact" || row.rest == u"approx") {
+        shown.status = row.rest;
+    } else {
+        const std::size_t start = row.rest.starts_with(u'-') ? 1 : 0;
+        shown.exponentSign = row.rest.substr(0, start);
+        shown.exponent = row.rest.substr(start);
+    }
+    return shown;
 }
 
-class DisplayFormat : public testing::TestWithParam<Case> {};
-
-TEST_P(DisplayFormat, FillsEverySlot) {
-    const auto& [mode, row] = GetParam();
+TEST(DisplayFormat, FillsEverySlot) {
     DYXOutputDisplay line(DYXCalculator::plainFields());
-    line.setOutputMode(mode);
-    line.setDigits(row.digits);
-    line.setDecimalSeparator(row.point);
-    line.setIntegerGroupingSeparator(row.integerSeparator);
-    line.setDecimalGroupingSeparator(row.decimalSeparator);
-    line.setReduceCarpentryFractions(row.reducesFractions);
-    line.setDisplayIrrationals(row.displaysIrrationals);
-    for (const TextSlot& slot :
-         {line.mantissaField(), line.mantissaSignField(), line.exponentField(),
-          line.exponentSignField(), line.statusField()}) {
-        slot->setStringValue(u"old");
-    }
-    line.setOutputTo(row.number);
-    EXPECT_EQ(shownBy(line), row.shown);
-    const bool warns = isIntegerMode(mode) && !row.shown.status.empty();
-    EXPECT_EQ(line.mantissaField()->textColor(),
-              warns ? DYXOutputDisplay::errorColor() : NSColor::black());
-    if (hasSignSlot(mode) && row.number > 0) {
-        Shown negative = row.shown;
-        negative.sign.assign(1, u'-');
-        line.setOutputTo(-row.number);
-        EXPECT_EQ(shownBy(line), negative);
+    for (const auto& [mode, style, rows] : kFormatTables) {
+        line.setOutputMode(mode);
+        line.setDecimalSeparator(style.point);
+        line.setIntegerGroupingSeparator(style.integerSeparator);
+        line.setDecimalGroupingSeparator(style.decimalSeparator);
+        line.setReduceCarpentryFractions(style.reducesFractions);
+        line.setDisplayIrrationals(style.displaysIrrationals);
+        for (const Row& row : rows) {
+            SCOPED_TRACE(testing::Message() << row.number << " at " << row.digits << " digits");
+            Shown shown = shownIn(mode, row);
+            line.setDigits(row.digits);
+            line.setOutputTo(row.number);
+            EXPECT_EQ(shownBy(line), shown) << "mode " << mode;
+            const bool warns = isIntegerMode(mode) && !shown.status.empty();
+            EXPECT_EQ(line.mantissaField()->textColor(),
+                      warns ? DYXOutputDisplay::errorColor() : NSColor::black());
+            if (hasSignSlot(mode) && row.number > 0) {
+                shown.sign = u"-";
+                line.setOutputTo(-row.number);
+                EXPECT_EQ(shownBy(line), shown) << "negative, mode " << mode;
+            }
+        }
     }
 }
 
-std::string rowName(const testing::TestParamInfo<Case>& info) {
-    std::string name = "row" + std::to_string(info.index) + "_";
-    for (const char character : testing::PrintToString(info.param.row.number)) {
-        name += character == '-'   ? 'm'
-                : character == '.' ? 'p'
-                : character == '+' ? '_'
-                                   : character;
+TEST(DisplayFormat, GroupsBySizeButScientificAlwaysByThree) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    line.setGroupingSeparator(u"_");
+    const std::pair<std::uint32_t, Text> rows[]{{0, u"12345.6789"},
+                                                {1, u"1_2_3_4_5.6_7_8_9"},
+                                                {4, u"1_2345.6789"},
+                                                {4'000'000'000U, u"12345.6789"}};
+    for (const auto& [size, text] : rows) {
+        line.setGroupingDigits(size);
+        line.setFixedTo(12345.6789);
+        EXPECT_EQ(shownBy(line), (Shown{text})) << size;
+        line.setScientificTo(12345.6789);
+        EXPECT_EQ(shownBy(line), (Shown{u"1.234_6", u"04"})) << size;
     }
-    return name + "_digits" + std::to_string(info.param.row.digits);
 }
 
-auto casesOf(std::int32_t mode, const std::vector<FormatRow>& table) {
-    std::vector<Case> cases;
-    for (const FormatRow& row : table) {
-        cases.push_back({mode, row});
+TEST(DisplayFormat, ShowsErrorsAndInfinitiesAsWordsInAnyMode) {
+    DYXOutputDisplay line(DYXCalculator::plainFields());
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    for (std::int32_t number = -1; number <= mode::count; ++number) {
+        SCOPED_TRACE(number);
+        line.setOutputMode(mode::HEX);
+        line.setOutputTo(-1e-20);
+        line.setOutputMode(number);
+        line.setOutputTo(-DYXnan('L'));
+        EXPECT_EQ(shownBy(line), (Shown{u"log error"}));
+        EXPECT_EQ(line.mantissaField()->textColor(), NSColor::black());
+        line.setOutputTo(-kInfinity);
+        EXPECT_EQ(shownBy(line), (Shown{u"\u221E", u"", u"", u"-"}));
+        line.setOutputTo(kInfinity);
+        EXPECT_EQ(shownBy(line), (Shown{u"\u221E"}));
     }
-    return testing::ValuesIn(cases);
 }
 
-INSTANTIATE_TEST_SUITE_P(FIX, DisplayFormat, casesOf(mode::FIX, kFIXRows), rowName);
-INSTANTIATE_TEST_SUITE_P(SCI, DisplayFormat, casesOf(mode::SCI, kSCIRows), rowName);
-INSTANTIATE_TEST_SUITE_P(ENG, DisplayFormat, casesOf(mode::ENG, kENGRows), rowName);
-INSTANTIATE_TEST_SUITE_P(MON, DisplayFormat, casesOf(mode::MON, kMONRows), rowName);
-INSTANTIATE_TEST_SUITE_P(FRC, DisplayFormat, casesOf(mode::FRC, kFRCRows), rowName);
-INSTANTIATE_TEST_SUITE_P(CAR, DisplayFormat, casesOf(mode::CAR, kCARRows), rowName);
-INSTANTIATE_TEST_SUITE_P(HMS, DisplayFormat, casesOf(mode::HMS, kHMSRows), rowName);
-INSTANTIATE_TEST_SUITE_P(DMS, DisplayFormat, casesOf(mode::DMS, kDMSRows), rowName);
-INSTANTIATE_TEST_SUITE_P(HEX, DisplayFormat, casesOf(mode::HEX, kHEXRows), rowName);
-INSTANTIATE_TEST_SUITE_P(OCT, DisplayFormat, casesOf(mode::OCT, kOCTRows), rowName);
-INSTANTIATE_TEST_SUITE_P(DEC, DisplayFormat, casesOf(mode::DEC, kDECRows), rowName);
-INSTANTIATE_TEST_SUITE_P(BIN, DisplayFormat, casesOf(mode::BIN, kBINRows), rowName);
-INSTANTIATE_TEST_SUITE_P(IRR, DisplayFormat, casesOf(mode::IRR, kIRRRows), rowName);
+TEST(DigitGroups, StandBehindFullGroupsOnly) {
+    using namespace ZUMutableStringExtensions;
+    const struct {
+        Text text, separator;
+        std::uint32_t size;
+        Text decimals, integers;
+    } rows[]{{u"123456.123456", u"_", 3, u"123456.123_456", u"123_456.123456"},
+             {u"1234,1234", u"ab", 3, u"1234,123ab4", u"1ab234,1234"},
+             {u"1234.", u"_", 2, u"1234.", u"12_34."},
+             {u"1.23", u"", 1, u"1.23", u"1.23"},
+             {u".1234", u"_", 3, u".123_4", u".1234"}};
+    for (const auto& row : rows) {
+        Text decimals = row.text;
+        insertDecimalSeparatorEvery(decimals, row.separator, row.size);
+        EXPECT_EQ(decimals, row.decimals);
+        Text integers = row.text;
+        insertIntegerSeparatorEvery(integers, row.separator, row.size);
+        EXPECT_EQ(integers, row.integers);
+    }
+    Text text = u"a--b---c";
+    replaceOccurancesOfStringWithCharacter(text, u"--", u'-');
+    EXPECT_EQ(text, u"a-b--c");
+}
 
 }  // namespace
 }  // namespace talvex
