@@ -5,7 +5,8 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <optional>
+#include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -19,7 +20,6 @@ namespace {
 
 constexpr std::size_t kLongestText = 4500;
 constexpr std::u16string_view kOld = u"old";
-constexpr double kPi = 3.141592653589793;
 
 DisplayFields oldFields() {
     const auto slot = [] {
@@ -108,21 +108,10 @@ Multiple parseMultiple(const std::u16string& text) {
 }
 
 double quotientBy(const std::u16string& symbol, double number) {
-    struct Row {
-        std::u16string_view symbol;
-        double constant;
-    };
-    constexpr auto kRows = std::to_array<Row>({{u"", 1.0},
-                                               {u"\u03C0", kPi},
-                                               {u"\u221A2", 1.4142135623730951},
-                                               {u"\u221A3", 1.7320508075688772},
-                                               {u"e", 2.718281828459045}});
-    for (const Row& row : kRows) {
-        if (row.symbol == symbol) {
-            return number / row.constant;
-        }
-    }
-    return number * kPi;
+    static const std::map<std::u16string, double> kConstants{
+        {u"", 1.0}, {u"π", M_PI}, {u"√2", M_SQRT2}, {u"√3", 1.7320508075688772}, {u"e", M_E}};
+    const auto row = kConstants.find(symbol);
+    return row == kConstants.end() ? number * M_PI : number / row->second;
 }
 
 // "exact" stands where the fraction on show is the number to the last bit but one, and only there.

@@ -4,11 +4,9 @@
 
 #include <cmath>
 #include <cstdint>
-#include <ostream>
 #include <vector>
 
 #include "display/display_modes.h"
-#include "display/utf8.h"
 #include "key_script.h"
 #include "numeric/DYXnan.h"
 #include "same_bits.h"
@@ -16,79 +14,68 @@
 namespace talvex {
 namespace {
 
-struct ValueRow {
-    std::int32_t mode;
+struct Row {
     std::string_view keys;
     double value;
-    std::uint32_t digits = 4;
 };
 
-// The name of the row.
-void PrintTo(const ValueRow& row, std::ostream* out) {
-    *out << utf8(displayModeName(row.mode)) << " with " << row.digits << " digits: " << row.keys;
-}
+struct Table {
+    std::int32_t mode;
+    std::uint32_t digits;
+    std::vector<Row> rows;
+};
 
-class EntryValue : public testing::TestWithParam<ValueRow> {};
-
-TEST_P(EntryValue, IsTheNumberThatWasTyped) {
-    KeyScript script;
-    script.inMode(GetParam().mode);
-    script.calculator.xDisplay().setDigits(GetParam().digits);
-    script.press(GetParam().keys);
-    EXPECT_TRUE(isSame(script.entry().doubleValue(), GetParam().value));
+template <class... Rows>
+Table table(std::int32_t mode, std::uint32_t digits, const Rows&... rows) {
+    return {mode, digits, {rows...}};
 }
 
 constexpr double kHour = 12.0 + 34.0 / 60.0;
 
-INSTANTIATE_TEST_SUITE_P(
-    Scientific, EntryValue,
-    testing::Values(
-        ValueRow{mode::FIX, "1 . 5 E-03", 0.0015}, ValueRow{mode::SCI, "1 2 . 3 4 E+03", 12340.0},
-        ValueRow{mode::FIX, "1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9", 1234567890123456789.0},
-        ValueRow{mode::ENG, ". 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9", 0.1234567890123456789},
-        ValueRow{mode::FIX, "9 0 0 7 1 9 9 2 5 4 7 4 0 9 9 3 . 0 0 1", 9007199254740994.0},
-        ValueRow{mode::SCI, ". 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1 EEX 9 9 CHS", 1e-118},
-        ValueRow{mode::FIX, "0 CHS", -0.0}, ValueRow{mode::IRR, "EEX", 1.0},
-        ValueRow{mode::FIX, "1 . 2 CLR EEX", 1.0}, ValueRow{mode::FIX, "7 . EEX 0 2 BACK", 7.0},
-        ValueRow{mode::MON, "1 . 0 0 5", 1.0, 2}, ValueRow{mode::MON, "2 . 5", 2.0, 0},
-        ValueRow{mode::MON, ". 1 CHS", -0.0, 0}));
+const std::vector kTables{
+    table(mode::FIX, 4, Row{"1 . 5 E-03", 0.0015},
+          Row{"1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9", 1234567890123456789.0},
+          Row{"9 0 0 7 1 9 9 2 5 4 7 4 0 9 9 3 . 0 0 1", 9007199254740994.0}, Row{"0 CHS", -0.0},
+          Row{"1 . 2 CLR EEX", 1.0}, Row{"7 . EEX 0 2 BACK", 7.0}),
+    table(mode::SCI, 4, Row{"1 2 . 3 4 E+03", 12340.0},
+          Row{". 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1 EEX 9 9 CHS", 1e-118}),
+    table(mode::ENG, 4, Row{". 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9", 0.1234567890123456789}),
+    table(mode::IRR, 4, Row{"EEX", 1.0}),
+    table(mode::MON, 2, Row{"1 . 0 0 5", 1.0}),
+    table(mode::MON, 0, Row{"2 . 5", 2.0}, Row{". 1 CHS", -0.0}),
+    table(mode::HEX, 4, Row{"f F a", 4090.0}, Row{"f f f f f f f f", 4294967295.0},
+          Row{"1 0 0 0 0 0 0 0 0", 4294967295.0}),
+    table(mode::OCT, 4, Row{"0 1 7", 15.0}, Row{"7 7 7 7 7 7 7 7 7 7 7 7 7", 4294967295.0}),
+    table(mode::DEC, 4, Row{"0 CHS", 0.0}, Row{"2 1 4 7 4 8 3 6 4 8", 2147483647.0},
+          Row{"2 1 4 7 4 8 3 6 4 7 CHS", -2147483647.0},
+          Row{"9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 CHS", -2147483648.0}),
+    table(mode::BIN, 4,
+          Row{"1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 0 1", 4294967293.0}),
+    table(mode::HMS, 4, Row{"1", 1.0}, Row{"1 2 3", 12.0 + 3.0 / 60.0},
+          Row{"1 2 3 4 5", kHour + 5.0 / 3600.0}, Row{"1 2 3 4 5 6 7 8", kHour + 56.78 / 3600.0},
+          Row{"0 1 3 0 CHS", 22.5}, Row{"0 0 9 9", 99.0 / 60.0}, Row{"0 CHS", 24.0}),
+    table(mode::DMS, 4, Row{"0 CHS", 360.0}, Row{"0 9 0 3 0 0 0 CHS", 269.5}, Row{"1 2", 12.0},
+          Row{"0 0 1 0 0 0 1 5", 1.0 + 1.5 / 3600.0}),
+    table(mode::FRC, 4, Row{".", 0.0}, Row{"5", 5.0}, Row{"5 . 3", 8.0}, Row{"1 . . 8", 1.0},
+          Row{"1 . 3 . 8 CHS", -1.375}, Row{"0 CHS", -0.0}, Row{"1 . 3 . 0 CHS", -INFINITY},
+          Row{"9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9", 9223372036854775807.0}),
+    table(mode::CAR, 4, Row{"1 . 1 CHS", -1.0625}, Row{"1 . 1 . 4", 1.25}),
+    table(mode::CAR, 3, Row{". 5", 0.625}),
+    table(mode::CAR, 0, Row{". 5", 5.0}),
+    table(mode::CAR, 4000000000U, Row{". 1", 1.0 / 2147483647.0})};
 
-INSTANTIATE_TEST_SUITE_P(
-    Integers, EntryValue,
-    testing::Values(
-        ValueRow{mode::HEX, "f F a", 4090.0}, ValueRow{mode::HEX, "f f f f f f f f", 4294967295.0},
-        ValueRow{mode::HEX, "1 0 0 0 0 0 0 0 0", 4294967295.0}, ValueRow{mode::OCT, "0 1 7", 15.0},
-        ValueRow{mode::OCT, "7 7 7 7 7 7 7 7 7 7 7 7 7", 4294967295.0},
-        ValueRow{mode::DEC, "0 CHS", 0.0}, ValueRow{mode::DEC, "2 1 4 7 4 8 3 6 4 8", 2147483647.0},
-        ValueRow{mode::DEC, "2 1 4 7 4 8 3 6 4 7 CHS", -2147483647.0},
-        ValueRow{mode::DEC, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 CHS", -2147483648.0},
-        ValueRow{mode::BIN, "1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 0 1",
-                 4294967293.0}));
-
-INSTANTIATE_TEST_SUITE_P(
-    TimesAndAngles, EntryValue,
-    testing::Values(ValueRow{mode::HMS, "1", 1.0}, ValueRow{mode::HMS, "1 2 3", 12.0 + 3.0 / 60.0},
-                    ValueRow{mode::HMS, "1 2 3 4 5", kHour + 5.0 / 3600.0},
-                    ValueRow{mode::HMS, "1 2 3 4 5 6 7 8", kHour + 56.78 / 3600.0},
-                    ValueRow{mode::HMS, "0 1 3 0 CHS", 22.5},
-                    ValueRow{mode::HMS, "0 0 9 9", 99.0 / 60.0}, ValueRow{mode::HMS, "0 CHS", 24.0},
-                    ValueRow{mode::DMS, "0 CHS", 360.0},
-                    ValueRow{mode::DMS, "0 9 0 3 0 0 0 CHS", 269.5},
-                    ValueRow{mode::DMS, "1 2", 12.0},
-                    ValueRow{mode::DMS, "0 0 1 0 0 0 1 5", 1.0 + 1.5 / 3600.0}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Fractions, EntryValue,
-    testing::Values(ValueRow{mode::FRC, ".", 0.0}, ValueRow{mode::FRC, "5", 5.0},
-                    ValueRow{mode::FRC, "5 . 3", 8.0}, ValueRow{mode::FRC, "1 . . 8", 1.0},
-                    ValueRow{mode::FRC, "1 . 3 . 8 CHS", -1.375},
-                    ValueRow{mode::FRC, "0 CHS", -0.0},
-                    ValueRow{mode::FRC, "1 . 3 . 0 CHS", -INFINITY},
-                    ValueRow{mode::FRC, "9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9",
-                             9223372036854775807.0},
-                    ValueRow{mode::CAR, "1 . 1 CHS", -1.0625}, ValueRow{mode::CAR, ". 5", 0.625, 3},
-                    ValueRow{mode::CAR, ". 5", 5.0, 0}, ValueRow{mode::CAR, "1 . 1 . 4", 1.25},
-                    ValueRow{mode::CAR, ". 1", 1.0 / 2147483647.0, 4000000000U}));
+TEST(EntryValue, IsTheNumberThatWasTyped) {
+    for (const auto& [mode, digits, rows] : kTables) {
+        for (const Row& row : rows) {
+            KeyScript script;
+            script.inMode(mode);
+            script.calculator.xDisplay().setDigits(digits);
+            script.press(row.keys);
+            EXPECT_TRUE(isSame(script.entry().doubleValue(), row.value))
+                << "mode " << mode << ": " << row.keys;
+        }
+    }
+}
 
 TEST(EntryValueErrors, AnUnreadableEntryIsAnInputError) {
     const struct {
@@ -112,7 +99,7 @@ TEST(EntryValueErrors, AnUnreadableEntryIsAnInputError) {
     }
 }
 
-TEST(EntryOfAnotherMode, IsWorthWhatTheNewOneReads) {
+TEST(EntryValue, OfAnotherModeIsWhatTheNewOneReads) {
     const struct {
         std::int32_t typedIn;
         std::string_view keys;
