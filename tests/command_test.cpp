@@ -3,12 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
+#include <utility>
+#include <vector>
 
 #include "core/function_tables.h"
-#include "display/ascii_text.h"
 #include "key_script.h"
 #include "same_bits.h"
 
@@ -16,194 +17,106 @@ namespace talvex {
 namespace {
 
 TEST(CommandString, ItsLengthSaysWhatItHolds) {
-    const Comand digit{.category = fourCC("data"), .action = fourCC("N00A")};
-    const Comand feet{
-        .category = fourCC("conv"), .action = fourCC("feet"), .group = fourCC("len ")};
-    EXPECT_EQ(commandFromString(u"dataN00A"), digit);
-    EXPECT_EQ(commandFromString(u"convlen feet"), feet);
     EXPECT_EQ(commandFromString(u"SIN "), (Comand{.action = fourCC("SIN ")}));
-    EXPECT_EQ(fourCC("SIN "), 0x53494E20U);
-    for (std::size_t length = 0; length < 40; ++length) {
-        if (length != 4 && length != 8 && length != 12) {
-            EXPECT_EQ(commandFromString(std::u16string(length, u'x')), Comand{}) << length;
-        }
-    }
     EXPECT_EQ(commandFromString(u"\u2161\u0162\u0041\uFF20").action, 0x61624120U);
+    for (std::size_t length = 0; length < 40; ++length) {
+        const bool isCommand = commandFromString(std::u16string(length, u'x')) != Comand{};
+        EXPECT_EQ(isCommand, length == 4 || length == 8 || length == 12) << length;
+    }
 }
 
-struct Modifiers {
-    bool inverse, hyperbolic, recall;
-    int store;
-    bool operator==(const Modifiers&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const Modifiers& modifiers) {
-    return out << modifiers.inverse << modifiers.hyperbolic << modifiers.recall << modifiers.store;
+// The modifiers that are on, and which store is armed.
+std::string modifiersOf(const DYXCalculator& calculator) {
+    return std::string(calculator.inverse ? "I" : "") + (calculator.hyperbolic ? "H" : "") +
+           (calculator.recall() ? "R" : "") + std::to_string(calculator.store());
 }
 
-class KeyPress : public testing::Test {
-  protected:
-    void press(std::string_view command) {
+TEST(KeyPress, LeavesOfTheModifiersWhatItsKindLeaves) {
+    KeyScript script;
+    DYXCalculator& calculator = script.calculator;
+    const auto press = [&](const std::u16string& command, bool isRecallArmed) {
         NSButton button;
-        button.setTitle(u"memoSTO ");
-        button.setAlternateTitle(asciiText(command));
-        script_.calculator.takeDYXButtonFrom(button);
-    }
-    [[nodiscard]] Modifiers modifiers() const {
-        const DYXCalculator& calculator = script_.calculator;
-        return {calculator.inverse, calculator.hyperbolic, calculator.recall(), calculator.store()};
-    }
-    KeyScript script_;
-};
-
-TEST_F(KeyPress, LeavesOfTheModifiersWhatItsKindLeaves) {
-    struct Row {
-        std::string_view command;
-        Modifiers left;  // of INV, HYP, RCL and STO+ lit before
+        button.setTitle(command);
+        calculator.inverse = calculator.hyperbolic = true;
+        calculator.setRecall(isRecallArmed);
+        calculator.setStore(2);
+        calculator.takeDYXButtonFrom(button);
+        return modifiersOf(calculator);
     };
-    for (const Row& row :
-         {Row{"modiARC ", {false, true, false, 0}}, Row{"modiHYP ", {true, false, false, 0}},
-          Row{"memoRCL ", {false, false, false, 0}}, Row{"memoSTO ", {false, false, false, 1}},
-          Row{"memoSTO+", {false, false, false, 0}}, Row{"memoSTO-", {false, false, false, 3}},
-          Row{"memoSTO*", {false, false, false, 4}}, Row{"memoSTO/", {false, false, false, 5}},
-          Row{"memoSTOC", {false, false, false, 0}}, Row{"modiWHAT", {false, false, false, 0}},
-          Row{"unitSQR ", {false, false, false, 0}}, Row{"dataN001", {false, false, false, 0}},
-          Row{"SIN ", {false, false, false, 0}}, Row{"anything else", {false, false, false, 0}}}) {
-        SCOPED_TRACE(row.command);
-        script_.calculator.inverse = true;
-        script_.calculator.hyperbolic = true;
-        script_.calculator.setRecall(true);
-        script_.calculator.setStore(2);
-        press(row.command);
-        EXPECT_EQ(modifiers(), row.left);
+    const std::pair<std::u16string, std::string> rows[]{
+        {u"modiARC ", "H0"}, {u"modiHYP ", "I0"}, {u"memoRCL ", "0"}, {u"memoSTO ", "1"},
+        {u"memoSTO+", "0"},  {u"memoSTO-", "3"},  {u"memoSTO*", "4"}, {u"memoSTO/", "5"},
+        {u"memoSTOC", "0"},  {u"unitSQR ", "0"},  {u"dataN001", "0"}, {u"anything else", "0"}};
+    for (const auto& [command, left] : rows) {
+        EXPECT_EQ(press(command, true), left) << testing::PrintToString(command);
     }
-}
-
-TEST_F(KeyPress, ReachesTheFunctionWithTheModifiersOfBefore) {
-    script_.press("3");
-    press("modiARC ");
-    press("modiHYP ");
-    EXPECT_EQ(modifiers(), (Modifiers{true, true, false, 0}));
-    press("unitGSIN");
-    EXPECT_EQ(script_.x(), std::asinh(3.0));
-    EXPECT_EQ(modifiers(), Modifiers{});
-    press("memoSTO ");
-    press("memoRCL ");
-    EXPECT_EQ(modifiers(), (Modifiers{false, false, true, 0}));
-    press("");
-    EXPECT_EQ(script_.calculator.store(), 1) << "the title counts where there is no other";
+    EXPECT_EQ(press(u"memoRCL ", false), "R0");
 }
 
 TEST(Memory, StoresRecallsAndCalculates) {
-    struct Row {
-        std::string_view keys;
-        double register3;
-        double x;
-        int armed = 0;
-    };
     // Each row starts with 2 in register 3.
-    for (const Row& row : {Row{"5 STO M03", 5, 5},
-                           Row{"5 STO+ M03", 7, 5},
-                           Row{"5 STO- M03", -3, 5},
-                           Row{"5 STO* M03", 10, 5},
-                           Row{"5 STO/ M03", 0.4, 5},
-                           Row{"0 STO/ M03", INFINITY, 0},
-                           Row{"5 M03", 2, 2},
-                           Row{"5 RCL M03", 2, 2},
-                           Row{"5 S03", 5, 5},
-                           Row{"5 +03", 7, 5},
-                           Row{"5 -03", -3, 5},
-                           Row{"5 *03", 10, 5},
-                           Row{"5 /03", 0.4, 5},
-                           Row{"5 R03", 2, 2},
-                           Row{"5 STO+ R03", 2, 2},
-                           Row{"5 STO STO M03", 2, 2},
-                           Row{"5 STO+ STO* M03", 10, 5},
-                           Row{"5 STO+ STOC M03", 2, 2},
-                           Row{"5 STO+ M20", 2, 5},
-                           Row{"5 STO+ STO*", 2, 0, 4},
-                           Row{"5 CLMM M03", 0, 0},
-                           Row{"5 CLAL", 0, 0},
-                           Row{"5 STO M03 M04", 5, 0}}) {
+    const struct {
+        std::string_view keys;
+        double register3, x;
+    } rows[]{{"5 STO M03", 5, 5},     {"5 STO+ M03", 7, 5},       {"5 STO- M03", -3, 5},
+             {"5 STO* M03", 10, 5},   {"4 STO/ M03", 0.5, 4},     {"5 RCL M03", 2, 2},
+             {"1 5 S03", 15, 15},     {"1 5 +03", 17, 15},        {"1 5 -03", -13, 15},
+             {"1 5 *03", 30, 15},     {"1 6 /03", 0.125, 16},     {"5 STO+ R03", 2, 2},
+             {"5 STO STO M03", 2, 2}, {"5 STO+ STO* M03", 10, 5}, {"5 STO+ STOC M03", 2, 2},
+             {"5 CLMM M03", 0, 0},    {"5 CLAL", 0, 0},           {"5 STO M03 M04", 5, 0}};
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.keys);
         KeyScript script;
         script.calculator.mem()[3] = 2;
         script.press(row.keys);
         EXPECT_EQ(script.calculator.mem()[3], row.register3);
         EXPECT_EQ(script.x(), row.x);
-        EXPECT_EQ(script.calculator.store(), row.armed);
+        EXPECT_EQ(script.calculator.store(), kNothingArmed);
     }
 }
 
 TEST(Memory, KeysReachTwentyRegistersAndDirectFormsNineteen) {
-    for (int number = 0; number < 100; ++number) {
-        SCOPED_TRACE(number);
-        const std::string digits{static_cast<char>('0' + number / 10),
-                                 static_cast<char>('0' + number % 10)};
-        KeyScript byKey;
-        byKey.press("5 STO M" + digits);
-        KeyScript direct;
-        direct.press("5 STO S" + digits);
-        for (int other = 0; other < static_cast<int>(DYXCalculator::kMemoryRegisters); ++other) {
-            const auto index = static_cast<std::size_t>(other);
-            EXPECT_EQ(byKey.calculator.mem().at(index), other == number && number < 20 ? 5 : 0);
-            EXPECT_EQ(direct.calculator.mem().at(index),
-                      other == number && number < 20 && number > 0 ? 5 : 0);
+    for (std::size_t number = 0; number < 100; ++number) {
+        const std::string digits = (number < 10 ? "0" : "") + std::to_string(number);
+        for (const char prefix : {'M', 'S'}) {
+            SCOPED_TRACE(prefix + digits);
+            KeyScript script;
+            script.press("5 STO " + (prefix + digits));
+            std::array<double, DYXCalculator::kMemoryRegisters> expected{};
+            if (number < 20 && (prefix == 'M' || number > 0)) {
+                expected.at(number) = 5;
+            }
+            EXPECT_EQ(script.calculator.mem(), expected);
+            EXPECT_EQ(script.calculator.store(), 0);
         }
-        EXPECT_EQ(byKey.calculator.store(), 0);
-        EXPECT_EQ(direct.calculator.store(), 0);
-        EXPECT_EQ(direct.calculator.inputState(), InputState::lifting);
     }
-}
-
-TEST(Functions, SaveXDropTheStackAndReportFailuresAsResults) {
-    KeyScript script;
-    script.setStack(3, 10, 30, 40);
-    script.press("-");
-    EXPECT_EQ(script.calculator.stack().reg, (std::array<double, 4>{7, 30, 40, 40}));
-    script.press("ARC 2 SIN");
-    EXPECT_EQ(script.line(), "|trig error||");
-    EXPECT_EQ(script.calculator.stack().lastX, 2);
-    script.press("LASTX");
-    EXPECT_EQ(script.x(), 2);
-}
-
-template <class Row>
-std::string commandOf(std::string category, const Row& row) {
-    for (unsigned place = 0; place < 4; ++place) {
-        category += characterOf(row.action, place);
-    }
-    return category;
 }
 
 TEST(Functions, HaveACommandForEveryRowOfTheTables) {
     KeyScript script;
-    const double x = 0.75;
-    const double y = 20.5;
-    for (const UnaryRow& row : unitaries()) {
-        script.setStack(x, y, 3, 4);
-        script.run(commandOf("unit", row));
-        EXPECT_TRUE(isSame(script.x(), row({}, x))) << commandOf("unit", row);
+    const auto expect = [&script](const Comand& command, double x, double y) {
+        script.setStack(0.75, 20.5, 3, 4);
+        script.calculator.doCommand(command);
+        EXPECT_TRUE(isSame(script.x(), x)) << std::hex << command.action;
         EXPECT_EQ(script.y(), y);
+    };
+    for (const UnaryRow& row : unitaries()) {
+        expect({.category = fourCC("unit"), .action = row.action}, row({}, 0.75), 20.5);
     }
     for (const BinaryRow& row : binaries()) {
-        script.setStack(x, y, 3, 4);
-        script.run(commandOf("bina", row));
-        EXPECT_TRUE(isSame(script.x(), row({}, x, y))) << commandOf("bina", row);
-        EXPECT_EQ(script.y(), 3);
+        expect({.category = fourCC("bina"), .action = row.action}, row({}, 0.75, 20.5), 3);
     }
 }
 
 TEST(Functions, TheKeysOfPowersFollowTheOrderOfOperands) {
-    struct Row {
+    const struct {
         std::string_view keys;
-        double baseInY;
-        double baseInX;
-    };
-    for (const Row& row :
-         {Row{"2 ENTER 1 0 ^", 1024, 100}, Row{"2 ENTER 1 0 x^y", 100, 100},
-          Row{"8 ENTER 6 4 ~", std::log(64.0) / std::log(8.0), std::log(8.0) / std::log(64.0)},
-          Row{"8 ENTER 6 4 y~x", std::log(8.0) / std::log(64.0), std::log(8.0) / std::log(64.0)}}) {
+        double baseInY, baseInX;
+    } rows[]{{"2 ENTER 1 0 ^", 1024, 100},
+             {"2 ENTER 1 0 x^y", 100, 100},
+             {"4 ENTER 1 6 ~", 2, 0.5},
+             {"4 ENTER 1 6 y~x", 0.5, 0.5}};
+    for (const auto& row : rows) {
         for (const bool isBaseInY : {true, false}) {
             KeyScript script;
             script.calculator.useHPStylePowerAndLogs = isBaseInY;
@@ -215,37 +128,33 @@ TEST(Functions, TheKeysOfPowersFollowTheOrderOfOperands) {
 
 TEST(Functions, ARandomNumberLiesBetweenZeroAndOne) {
     KeyScript script;
-    double least = 1;
-    double greatest = 0;
-    for (int count = 0; count < 1000; ++count) {
+    std::vector<double> numbers(1000);
+    for (double& number : numbers) {
         script.press("RAND");
-        least = std::min(least, script.x());
-        greatest = std::max(greatest, script.x());
+        number = script.x();
     }
-    EXPECT_GE(least, 0);
-    EXPECT_LT(least, 0.05);
-    EXPECT_LE(greatest, 1);
-    EXPECT_GT(greatest, 0.95);
+    const auto [least, greatest] = std::minmax_element(numbers.begin(), numbers.end());
+    EXPECT_TRUE(*least >= 0 && *least < 0.05) << *least;
+    EXPECT_TRUE(*greatest <= 1 && *greatest > 0.95) << *greatest;
 }
 
 TEST(UnknownCommands, ChangeNothingAndAreRecorded) {
-    for (const std::string_view key :
-         {"WHAT?", "UNIT?", "BINA?", "TRIN?", "QUAD?", "CONS?", "STAC?", "NULL?", "DATA?"}) {
-        SCOPED_TRACE(key);
+    for (const std::string category :
+         {"what", "unit", "bina", "trin", "quad", "cons", "stac", "null", "data"}) {
+        SCOPED_TRACE(category);
         KeyScript script;
         script.setStack(7, 2, 3, 4);
-        script.press("5 6");
-        script.press(key);
+        script.press("5 6 " + category + "ABCD");
         EXPECT_EQ(script.line(), "|56||");
         EXPECT_EQ(script.calculator.stack().reg, (std::array<double, 4>{7, 7, 2, 3}));
         EXPECT_EQ(script.beeps(), 0);
-        EXPECT_NE(script.calculator.lastCommand(), Comand{});
+        EXPECT_EQ(script.calculator.lastCommand().action, fourCC("ABCD"));
     }
 }
 
 TEST(UnknownModes, ShowAndTakeNumbersAsFixDoes) {
-    for (const std::int32_t number : {13, -1, std::numeric_limits<std::int32_t>::max(),
-                                      std::numeric_limits<std::int32_t>::min()}) {
+    using Numbers = std::numeric_limits<std::int32_t>;
+    for (const std::int32_t number : {13, -1, Numbers::max(), Numbers::min()}) {
         KeyScript script;
         script.inMode(number);
         script.press("1 2 ENTER 3 +");

@@ -11,38 +11,35 @@
 namespace talvex {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 56> kKeys{{
-    {".", "data.   "},     {"EEX", "dataEEX "},   {"CHS", "dataCHS "},   {"ENTER", "dataENT "},
-    {"BACK", "dataBACK"},  {"CLR", "dataCLR "},   {"CLRG", "dataCLRG"},  {"CLAL", "dataCLAL"},
-    {"E-03", "dataE-03"},  {"E-06", "dataE-06"},  {"E-09", "dataE-09"},  {"E+03", "dataE+03"},
-    {"E+06", "dataE+06"},  {"E+09", "dataE+09"},  {"+", "bina+   "},     {"-", "bina-   "},
-    {"*", "bina*   "},     {"/", "bina/   "},     {"^", "bina^   "},     {"~", "bina~   "},
-    {"x^y", "binax^y "},   {"y~x", "binay~x "},   {"SQR", "unitSQR "},   {"ROOT", "unitROOT"},
-    {"INV", "unitINV "},   {"EXP", "unitEXP "},   {"LN", "unitNLOG"},    {"ABS", "unitABS "},
-    {"SIN", "unitGSIN"},   {"COS", "unitGCOS"},   {"TAN", "unitGTAN"},   {"ARC", "modiARC "},
-    {"HYP", "modiHYP "},   {"STO", "memoSTO "},   {"STO+", "memoSTO+"},  {"STO-", "memoSTO-"},
-    {"STO*", "memoSTO*"},  {"STO/", "memoSTO/"},  {"RCL", "memoRCL "},   {"STOC", "memoSTOC"},
-    {"CLMM", "memoCLMM"},  {"X<>Y", "stacX<>Y"},  {"ROLD", "stacROLD"},  {"ROLU", "stacROLU"},
-    {"LASTX", "stacLSTX"}, {"PI", "consPI  "},    {"RAND", "nullRAND"},  {"NULL?", "nullELSE"},
-    {"TRIN?", "trinABCD"}, {"QUAD?", "quadABCD"}, {"UNIT?", "unitABCD"}, {"BINA?", "binaABCD"},
-    {"CONS?", "consABCD"}, {"STAC?", "stacABCD"}, {"WHAT?", "whatABCD"}, {"DATA?", "dataABCD"},
+constexpr std::array<std::pair<std::string_view, std::string_view>, 32> kKeys{{
+    {".", "data.   "},    {"EEX", "dataEEX "},  {"CHS", "dataCHS "},   {"ENTER", "dataENT "},
+    {"CLR", "dataCLR "},  {"CLRG", "dataCLRG"}, {"CLAL", "dataCLAL"},  {"BACK", "dataBACK"},
+    {"+", "bina+   "},    {"-", "bina-   "},    {"*", "bina*   "},     {"/", "bina/   "},
+    {"^", "bina^   "},    {"~", "bina~   "},    {"x^y", "binax^y "},   {"y~x", "binay~x "},
+    {"SQR", "unitSQR "},  {"ROOT", "unitROOT"}, {"SIN", "unitGSIN"},   {"PI", "consPI  "},
+    {"ARC", "modiARC "},  {"HYP", "modiHYP "},  {"STO", "memoSTO "},   {"RCL", "memoRCL "},
+    {"STOC", "memoSTOC"}, {"CLMM", "memoCLMM"}, {"X<>Y", "stacX<>Y"},  {"ROLD", "stacROLD"},
+    {"ROLU", "stacROLU"}, {"RAND", "nullRAND"}, {"LASTX", "stacLSTX"}, {"STO+", "memoSTO+"},
 }};
 
-constexpr std::string_view kRegisterPrefixes = "MRS+-*/";
-
-std::string commandOf(std::string_view key) {
+std::string commandOf(const std::string& key) {
     for (const auto& [name, command] : kKeys) {
         if (name == key) {
             return std::string(command);
         }
     }
-    if (key.size() == 1) {
-        return "dataN00" + std::string(key);
+    switch (key.size()) {
+        case 1:
+            return "dataN00" + key;
+        case 3:
+            return "memo" + key.substr(0, 1) + '0' + key.substr(1);
+        case 4:
+            return (key[0] == 'E' ? "data" : "memo") + key;
+        case 8:
+            return key;
+        default:
+            throw std::invalid_argument("no key " + key);
     }
-    if (key.size() == 3 && kRegisterPrefixes.find(key[0]) != std::string_view::npos) {
-        return "memo" + std::string(1, key[0]) + "0" + std::string(key.substr(1));
-    }
-    throw std::invalid_argument("no key " + std::string(key));
 }
 
 std::string textOf(const TextSlot& slot) { return utf8(slot->stringValue()); }

@@ -12,8 +12,8 @@ namespace talvex {
 class KeyScript {
   public:
     // Each word is the name of a key or, of one character, a digit; "M05" is a register key, "R05",
-    // "S05" and "+05" recall, store and add to one directly. Any other word is an error of the
-    // script and throws.
+    // "S05" and "+05" recall, store and add to one directly; eight characters are a command as it
+    // stands. Any other word is an error of the script and throws.
     void press(std::string_view keys);
     // A command as a button carries it, for codes that have no name here: "unitSQR ".
     void run(std::string_view command);
