@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cmath>
-#include <limits>
 #include <vector>
 
 #include "platform/HeadlessPlatform.h"
@@ -41,63 +40,38 @@ class WindowGeometry : public testing::Test {
 
     HeadlessPlatform platform;
     DYXWindowController controller{platform};
-    NSWindow& window = controller.views().window;
+    WindowViews& views = controller.views();
+    NSWindow& window = views.window;
 };
 
 TEST_F(WindowGeometry, HasSixLayoutsThatKeepTheTopLeftCorner) {
-    const struct {
-        bool keyPadHidden, fourLines, statusLine;
-        NSSize content;
-    } rows[]{{false, false, false, {404, 211}}, {false, false, true, {404, 228}},
-             {false, true, false, {404, 271}},  {false, true, true, {404, 288}},
-             {true, false, false, {274, 45}},   {true, false, true, {274, 45}},
-             {true, true, false, {274, 105}},   {true, true, true, {274, 105}}};
+    constexpr std::array kSwitches{&DYXWindowController::takeShowKeyPadFrom,
+                                   &DYXWindowController::takeShowYZTRegistersFrom,
+                                   &DYXWindowController::takeShowStatusLineFrom};
     window.setFrameTopLeftPoint({100, 900});
-    const auto take = [&](bool keyPadHidden, bool fourLines, bool statusLine) {
-        if (controller.layout().keyPadHidden != keyPadHidden) {
-            controller.takeShowKeyPadFrom();
-        }
-        if ((controller.layout().displayViewMode == 1) != fourLines) {
-            controller.takeShowYZTRegistersFrom();
-        }
-        if (controller.layout().showStatusLine != statusLine) {
-            controller.takeShowStatusLineFrom();
-        }
-    };
-    const NSView& display = *controller.views().displayView;
-    for (const auto& from : rows) {
-        for (const auto& to : rows) {
-            take(from.keyPadHidden, from.fourLines, from.statusLine);
-            take(to.keyPadHidden, to.fourLines, to.statusLine);
-            EXPECT_EQ(contentSize(), to.content);
-            EXPECT_EQ(window.frame().x, 100);
-            EXPECT_EQ(window.frame().y + window.frame().height, 900);
-            // The display hangs from the top, five points from both sides.
-            EXPECT_EQ(display.frame().x, 5);
-            EXPECT_EQ(display.frame().width, to.content.width - 10);
-            EXPECT_EQ(display.frame().y + display.frame().height, to.content.height - 2);
-            EXPECT_EQ(display.frame().height, to.fourLines ? 101 : 41);
-        }
-    }
-    // And the key pad hangs below it.
-    take(false, true, true);
-    EXPECT_EQ(controller.views().keyPad.view()->frame().y, 17);
-    EXPECT_EQ(controller.views().keyPad.view()->statusField()->frame(), (NSRect{5, -21, 393, 22}));
-}
-
-TEST_F(WindowGeometry, KeepsTheSmallButtonsAtTheUpperRight) {
-    const NSButton& lines = *controller.views().xyztButton;
-    const NSButton& status = *controller.views().statusButton;
-    for (int layout = 0; layout < 4; ++layout) {
+    for (int step = 0; step < 200; ++step) {
+        (controller.*kSwitches.at(platform.random() % 3))();
+        const auto& [keyPadHidden, mode, statusLine] = controller.layout();
+        const double height = (mode == 1 ? 60 : 0) + (keyPadHidden ? 45 : statusLine ? 228 : 211);
+        EXPECT_EQ(contentSize(), (NSSize{keyPadHidden ? 274.0 : 404.0, height}));
         const NSRect& frame = window.frame();
-        EXPECT_EQ(lines.frame(), (NSRect{frame.width - 25, frame.height - 18, 13, 13}));
-        EXPECT_EQ(status.frame(), (NSRect{frame.width - 44, frame.height - 18, 13, 13}));
-        EXPECT_EQ(lines.image(), layout % 2 == 0 ? u"xyztOn" : u"xyztOff");
-        EXPECT_EQ(status.image(), layout < 2 ? u"statusOn" : u"statusOff");
-        controller.views().xyztButton->performClick();
-        if (layout == 1) {
-            controller.takeShowKeyPadFrom();
-            controller.views().statusButton->performClick();
+        EXPECT_EQ(frame, (NSRect{100, 900 - height - 22, contentSize().width, height + 22}));
+        // The display hangs from the top, five points from both sides.
+        EXPECT_EQ(views.displayView->frame(),
+                  (mode == 1 ? NSRect{5, height - 103, frame.width - 10, 101}
+                             : NSRect{5, height - 43, frame.width - 10, 41}));
+        EXPECT_EQ(views.xyztButton->frame(), (NSRect{frame.width - 25, height + 4, 13, 13}));
+        EXPECT_EQ(views.statusButton->frame(), (NSRect{frame.width - 44, height + 4, 13, 13}));
+        EXPECT_EQ(views.xyztButton->image(), mode == 1 ? u"xyztOff" : u"xyztOn");
+        EXPECT_EQ(views.statusButton->image(), statusLine ? u"statusOff" : u"statusOn");
+        if (!keyPadHidden) {
+            // The key pad hangs below it, and the drawers at the sides below the title bar.
+            const NSView& keyPad = *views.keyPad.view();
+            EXPECT_EQ(keyPad.frame().y, statusLine ? 17 : 0);
+            for (const DrawerName name : {DrawerName::memory, DrawerName::constants}) {
+                const NSDrawer& side = drawer(name);
+                EXPECT_EQ(side.trailingOffset(), height - 15 - side.maxContentSize().height);
+            }
         }
     }
 }
@@ -113,36 +87,31 @@ TEST_F(WindowGeometry, FindsAPlaceOnTheScreen) {
 }
 
 TEST_F(WindowGeometry, TakesASavedLayout) {
-    const auto setUp = [this](NSPoint place, bool keyPadHidden, int mode, bool status) {
-        controller.setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(place, keyPadHidden,
-                                                                              mode, status);
-    };
-    setUp({10, 500}, true, 1, true);
-    EXPECT_EQ(window.frame(), (NSRect{10, 373, 274, 127}));
-    EXPECT_TRUE(controller.views().keyPad.view()->isHidden());
-    EXPECT_TRUE(controller.views().keyPad.view()->statusField()->isHidden());
-    setUp({20, 600}, false, 0, true);
-    EXPECT_EQ(window.frame(), (NSRect{20, 350, 404, 250}));
-    EXPECT_FALSE(controller.views().keyPad.view()->isHidden());
-    controller.takeShowKeyPadFrom();
-    controller.takeShowKeyPadFrom();
-    EXPECT_FALSE(controller.views().keyPad.view()->statusField()->isHidden());
-    setUp({20, 600}, false, 77, false);  // a number that no layout has
-    EXPECT_EQ(contentSize(), (NSSize{404, 271}));
+    const struct {
+        bool keyPadHidden;
+        int mode;
+        bool statusLine;
+        NSRect frame;
+    } rows[]{{true, 1, true, {10, 373, 274, 127}},
+             {false, 0, true, {10, 250, 404, 250}},
+             {false, 77, false, {10, 207, 404, 293}}};  // a number that no layout has
+    for (const auto& row : rows) {
+        controller.setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(
+            {10, 500}, row.keyPadHidden, row.mode, row.statusLine);
+        EXPECT_EQ(window.frame(), row.frame);
+        EXPECT_EQ(views.keyPad.view()->isHidden(), row.keyPadHidden);
+        EXPECT_EQ(views.keyPad.view()->statusField()->isHidden(), row.keyPadHidden);
+    }
 }
 
 TEST_F(WindowGeometry, OpensDrawersOnlyBesideTheKeyPad) {
     NSDrawer& constants = drawer(DrawerName::constants);
-    controller.takeToggleConstantsDrawerFrom();
-    EXPECT_EQ(constants.state(), NSDrawerOpenState);
-    controller.takeToggleConstantsDrawerFrom();
-    EXPECT_EQ(constants.state(), NSDrawerClosedState);
     for (const double height : {200.0, 200.5}) {
         NSRect frame = window.frame();
         frame.height = height;
         window.setFrame(frame);
         controller.takeToggleConstantsDrawerFrom();
-        EXPECT_EQ(constants.isOpenOrOpening(), height > 200.0);
+        EXPECT_EQ(constants.state(), height > 200.0 ? NSDrawerOpenState : NSDrawerClosedState);
     }
     const SlowDrawer slow(constants);
     controller.takeToggleConstantsDrawerFrom();
@@ -151,91 +120,74 @@ TEST_F(WindowGeometry, OpensDrawersOnlyBesideTheKeyPad) {
     EXPECT_EQ(constants.state(), NSDrawerOpeningState);
 }
 
-TEST_F(WindowGeometry, HangsSideDrawersBelowTheTitleBarInEveryLayout) {
-    for (int layout = 0; layout < 3; ++layout) {
-        for (const DrawerName name : {DrawerName::memory, DrawerName::constants}) {
-            const NSDrawer& side = drawer(name);
-            EXPECT_EQ(side.trailingOffset(),
-                      window.frame().height - side.maxContentSize().height - 37);
-            EXPECT_GE(side.trailingOffset(), 0);
-        }
-        layout == 0 ? controller.takeShowYZTRegistersFrom() : controller.takeShowStatusLineFrom();
-    }
-}
-
 TEST_F(WindowGeometry, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
-    const SlowDrawer memory(drawer(DrawerName::memory));
-    const SlowDrawer functions(drawer(DrawerName::functions));
+    NSDrawer& memory = drawer(DrawerName::memory);
+    NSDrawer& functions = drawer(DrawerName::functions);
+    const SlowDrawer slowMemory(memory);
+    const SlowDrawer slowFunctions(functions);
     controller.takeToggleMemoryDrawerFrom();
     controller.takeToggleFunctionsDrawerFrom();
-    drawer(DrawerName::functions).finishSliding();  // one is open, one still opening
+    functions.finishSliding();  // one is open, one still opening
     controller.takeShowKeyPadFrom();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
-    drawer(DrawerName::functions).finishSliding();
+    functions.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
-    EXPECT_FALSE(controller.views().keyPad.view()->isHidden());
+    EXPECT_FALSE(views.keyPad.view()->isHidden());
     controller.takeToggleFunctionsDrawerFrom();  // too late for that
-    EXPECT_EQ(drawer(DrawerName::functions).state(), NSDrawerClosedState);
-    drawer(DrawerName::memory).finishSliding();
+    EXPECT_EQ(functions.state(), NSDrawerClosedState);
+    memory.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{274, 45}));
-    EXPECT_TRUE(controller.views().keyPad.view()->isHidden());
+    EXPECT_TRUE(views.keyPad.view()->isHidden());
 
     controller.takeShowKeyPadFrom();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
-    EXPECT_EQ(drawer(DrawerName::memory).state(), NSDrawerOpeningState);
-    EXPECT_EQ(drawer(DrawerName::functions).state(), NSDrawerOpeningState);
+    EXPECT_EQ(memory.state(), NSDrawerOpeningState);
+    EXPECT_EQ(functions.state(), NSDrawerOpeningState);
     EXPECT_EQ(drawer(DrawerName::constants).state(), NSDrawerClosedState);
-    EXPECT_EQ(drawer(DrawerName::conversion).state(), NSDrawerClosedState);
 
     // A drawer that closes by itself leaves the window alone.
-    drawer(DrawerName::memory).finishSliding();
+    memory.finishSliding();
     controller.takeToggleMemoryDrawerFrom();
-    drawer(DrawerName::memory).finishSliding();
+    memory.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
 }
 
-struct Rest {
-    DrawerName name;
-    double dragged, target;
-};
-
-class DrawerRest : public WindowGeometry, public testing::WithParamInterface<Rest> {};
-
-TEST_P(DrawerRest, IsAtTheNearestPosition) {
-    NSDrawer& dragged = drawer(GetParam().name);
-    dragged.openOnEdge(dragged.preferredEdge());
-    double NSSize::*const moved = dragged.isLevel() ? &NSSize::height : &NSSize::width;
-    NSSize size = dragged.maxContentSize();
-    size.*moved = GetParam().dragged;
-    platform.mouseButtons = 1;
-    dragged.dragContentsToSize(size);
-    dragged.dragContentsToSize(size);
-    EXPECT_EQ(dragged.contentSize(), size);  // as long as the button is down
-    platform.mouseButtons = 2;               // another button
-    SlowDrawer way(dragged);
-    dragged.dragContentsToSize(size);
-    size.*moved = GetParam().target;
-    EXPECT_EQ(dragged.contentSize(), size);
-    EXPECT_EQ(dragged.contentView()->frame().width, size.width);
-    double last = GetParam().dragged;
-    for (const double step : way.sizes) {
-        EXPECT_LE(std::fabs(step - last), 15.0);
-        EXPECT_TRUE(std::fabs(step - last) == 15.0 || step == GetParam().target);
-        last = step;
+TEST_F(WindowGeometry, LetsADraggedDrawerRestAtTheNearestPosition) {
+    using enum DrawerName;
+    const struct {
+        DrawerName name;
+        double dragged, target;
+    } rows[]{{constants, 200, 182}, {constants, 23.6, 47}, {constants, 23.5, 47},
+             {constants, 23.4, 0},  {constants, 112, 133}, {constants, 334, 313},
+             {constants, 335, 355}, {functions, 60, 73},   {functions, 59, 47},
+             {functions, 203, 208}, {memory, 100.9, 0},    {memory, 101, 202},
+             {conversion, 100, 190}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.dragged);
+        NSDrawer& dragged = drawer(row.name);
+        dragged.openOnEdge(dragged.preferredEdge());
+        double NSSize::*const moved = dragged.isLevel() ? &NSSize::height : &NSSize::width;
+        NSSize size = dragged.maxContentSize();
+        size.*moved = row.dragged;
+        platform.mouseButtons = 1;
+        dragged.dragContentsToSize(size);
+        dragged.dragContentsToSize(size);
+        EXPECT_EQ(dragged.contentSize(), size);  // as long as the button is down
+        platform.mouseButtons = 2;               // another button
+        const SlowDrawer way(dragged);
+        dragged.dragContentsToSize(size);
+        size.*moved = row.target;
+        EXPECT_EQ(dragged.contentSize(), size);
+        EXPECT_EQ(dragged.contentView()->frame().width, size.width);
+        double last = row.dragged;
+        for (const double step : way.sizes) {
+            EXPECT_TRUE(std::fabs(step - last) == 15.0 ||
+                        (step == row.target && std::fabs(step - last) <= 15.0));
+            last = step;
+        }
+        EXPECT_EQ(last, row.target);
     }
-    EXPECT_EQ(last, GetParam().target);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, DrawerRest,
-    testing::Values(Rest{DrawerName::constants, 200, 182}, Rest{DrawerName::constants, 23.6, 47},
-                    Rest{DrawerName::constants, 23.5, 47}, Rest{DrawerName::constants, 23.4, 0},
-                    Rest{DrawerName::constants, 112, 133}, Rest{DrawerName::constants, 334, 313},
-                    Rest{DrawerName::constants, 335, 355}, Rest{DrawerName::functions, 60, 73},
-                    Rest{DrawerName::functions, 59, 47}, Rest{DrawerName::functions, 203, 208},
-                    Rest{DrawerName::memory, 100.9, 0}, Rest{DrawerName::memory, 101, 202},
-                    Rest{DrawerName::conversion, 100, 190}),
-    [](const auto& row) { return "row" + std::to_string(row.index); });
 
 TEST_F(WindowGeometry, PassesADragThroughUntilTheSizeComesTwiceWithTheMouseUp) {
     NSDrawer& constants = drawer(DrawerName::constants);
@@ -262,7 +214,7 @@ TEST_F(WindowGeometry, OpensADrawerAgainWholeThatWasDraggedShut) {
     controller.takeToggleMemoryDrawerFrom();
     EXPECT_EQ(memory.contentSize(), whole);
     // The keys are where they were: they keep their distance from the outer edge.
-    for (const Key& key : controller.views().memoryPanel.keys) {
+    for (const Key& key : views.memoryPanel.keys) {
         EXPECT_GE(key.button->frame().x, 5);
         EXPECT_LE(key.button->frame().x + key.button->frame().width, whole.width - 5);
     }
@@ -270,21 +222,19 @@ TEST_F(WindowGeometry, OpensADrawerAgainWholeThatWasDraggedShut) {
 
 // A drawer at rest shows whole columns or rows.
 TEST_F(WindowGeometry, CutsNoKeyAtAnyRestingPlace) {
-    const auto isWhole = [](double start, double end, double edge) {
-        return end <= edge || start >= edge;
+    const auto expectWhole = [this](DrawerName name, const std::vector<Key>& keys) {
+        for (const float edge : controller.drawers()[name].positions) {
+            for (const Key& key : keys) {
+                const NSRect& frame = key.button->frame();
+                const bool isLevel = drawer(name).isLevel();
+                const double start = isLevel ? frame.y : frame.x;
+                EXPECT_TRUE(start >= edge || start + (isLevel ? frame.height : frame.width) <= edge)
+                    << edge;
+            }
+        }
     };
-    for (const float edge : controller.drawers()[DrawerName::constants].positions) {
-        for (const Key& key : controller.views().constantsPanel.keys) {
-            const NSRect& frame = key.button->frame();
-            EXPECT_TRUE(isWhole(frame.x, frame.x + frame.width, edge)) << edge;
-        }
-    }
-    for (const float edge : controller.drawers()[DrawerName::functions].positions) {
-        for (const Key& key : controller.views().functionsPanel.keys) {
-            const NSRect& frame = key.button->frame();
-            EXPECT_TRUE(isWhole(frame.y, frame.y + frame.height, edge)) << edge;
-        }
-    }
+    expectWhole(DrawerName::constants, views.constantsPanel.keys);
+    expectWhole(DrawerName::functions, views.functionsPanel.keys);
 }
 
 }  // namespace
