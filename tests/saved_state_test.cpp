@@ -3,14 +3,17 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <array>
+#include <bit>
 #include <cmath>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <limits>
 #include <set>
 #include <string>
+#include <tuple>
+#include <utility>
 
 #include "numeric/DYXnan.h"
 #include "platform/HeadlessPlatform.h"
@@ -40,10 +43,6 @@ class SavedFile : public testing::Test {
         fs::create_directories(path.parent_path());
         std::ofstream(path, std::ios::binary) << bytes;
     }
-    void put(const PropertyDictionary& dictionary) const {
-        put(StateFile(home).saveDataPath(),
-            writePropertyList(dictionary, PropertyListFlavour::xml));
-    }
     [[nodiscard]] std::string bytesOf(const fs::path& path) const {
         std::ifstream file(path, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
@@ -62,68 +61,76 @@ PropertyData dataOf(double number) {
     return {bytes.begin(), bytes.end()};
 }
 
-NSMenuItem itemOf(int tag, int state = 0) {
-    return {.title = {}, .tag = tag, .action = {}, .state = state};
+NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
+
+// Turns over every switch of a menu, and chooses the last of several values.
+void chooseAll(NSMenu& menu) {
+    for (NSMenuItem& item : menu.items) {
+        chooseAll(item.submenu);
+        if (item.validation) {
+            item.validation(item);
+            if (item.enabled) {
+                item.action(item);
+            }
+        }
+    }
+}
+
+// What the menu, the drawers and the help were set to, as far as it can be seen.
+auto settingsOf(const DYXWindowController& calculator) {
+    const DYXInputDisplay& line = calculator.xDisplay();
+    const DYXSettings& settings = calculator.settings();
+    const WindowLayout& layout = calculator.layout();
+    const HelpViews& help = calculator.views().help;
+    return std::tuple(
+        line.outputMode(), line.inputMode(), line.unlockInputAndOutputModes(), line.digits(),
+        line.decimalSeparator(), line.integerGroupingSeparator(), line.groupingDigits(),
+        line.textFont()->name, line.reduceCarpentryFractions(), line.displayIrrationals(),
+        calculator.angleMode, calculator.useHPStylePowerAndLogs, settings.animateWindow,
+        settings.includeDigitGroupingWhenCopying, settings.registerLabelsHidden,
+        settings.autoHideXLabel, settings.statusLinesEnabled, layout.keyPadHidden,
+        layout.displayViewMode, layout.showStatusLine, calculator.views().window.frame(),
+        calculator.views().conversionPanel.tabView->indexOfSelectedItem(), help.window.frame(),
+        help.window.isVisible(), help.webView.textSteps(), help.webView.requestedURL());
 }
 
 TEST_F(SavedFile, BringsEverythingBackToTheBit) {
-    const std::array<double, 4> stack{DYXnan('L'), -0.0, kInfinity, 5e-324};
-    {
-        DYXWindowController calculator(platform);
-        calculator.stack() = {.reg = stack, .lastX = -kInfinity};
-        for (std::size_t index = 0; index < 21; ++index) {
-            calculator.mem().at(index) = 1.0 / (1.0 + static_cast<double>(index));
-        }
-        calculator.takeOutputModeFrom(itemOf(5));
-        calculator.takeInputModeFrom(itemOf(8));
-        calculator.takeLockOutputAndInputFrom(itemOf(0));
-        calculator.takeAngleModeFrom(itemOf(3));
-        calculator.takeDigitsFrom(itemOf(17));
-        calculator.takeDecimalModeFrom(itemOf(2));
-        calculator.takeDigitGroupingSeparatorFrom(itemOf(3));
-        calculator.takeDigitGroupingDigitsFrom(itemOf(4));
-        calculator.takeFontModeFrom(itemOf(2));
-        calculator.takeIncludeDigitGroupingWhenCopyingFrom(itemOf(0));
-        calculator.takeRegisterLabelsHiddenFrom(itemOf(0));
-        calculator.takeXRegisterLabelAutomaticallyHiddenFrom(itemOf(0));
-        calculator.takeWindowSizingAnimationFrom(itemOf(0, 1));
-        calculator.takeStatusLinesEnabledFrom(itemOf(0, 1));
-        calculator.takeCarpentryFractionsReducedFrom(itemOf(0, 1));
-        calculator.takeDisplayIrrationalsFrom(itemOf(0));
-        calculator.takeHPStylePowerAndLogsFrom(itemOf(0, 1));
-        calculator.takeShowYZTRegistersFrom();
-        calculator.applicationWillTerminate();
+    DYXWindowController first(platform);
+    first.stack() = {.reg = {DYXnan('L'), -0.0, kInfinity, 5e-324}, .lastX = -kInfinity};
+    for (std::size_t index = 0; index < 21; ++index) {
+        first.mem().at(index) = 1.0 / (1.0 + static_cast<double>(index));
     }
-    DYXWindowController calculator(platform);
+    for (const DrawerName name : kDrawerNames) {
+        first.toggleDrawer(first.drawers()[name].record);
+    }
+    chooseAll(first.views().menu);
+    first.takeOutputModeFrom(itemOf(5));
+    first.views().conversionPanel.tabView->selectTabViewItemAtIndex(3);
+    first.views().help.matrix->performClickAt(3, 0);
+    first.views().help.window.setFrame({10, 20, 500, 400});
+    first.setHelpViewTextToSize(-2);
+    first.applicationWillTerminate();
+    const PropertyDictionary saved = propertiesOf(*StateFile(home).read());
+    for (const auto& [key, value] : propertiesOf({})) {  // the drawers are closed, to come back
+        EXPECT_TRUE(saved.at(key) != value || key == "inputState" || key.ends_with("DrawerState"))
+            << key;
+    }
+    DYXWindowController second(platform);
+    EXPECT_EQ(settingsOf(second), settingsOf(first));
     for (std::size_t index = 0; index < 4; ++index) {
-        EXPECT_TRUE(isSame(calculator.stack().reg.at(index), stack.at(index))) << index;
+        EXPECT_TRUE(isSame(second.stack().reg.at(index), first.stack().reg.at(index))) << index;
     }
-    EXPECT_EQ(calculator.stack().lastX, -kInfinity);
-    EXPECT_EQ(calculator.mem()[20], 1.0 / 21.0);
-    const DYXInputDisplay& line = calculator.xDisplay();
-    EXPECT_EQ(line.outputMode(), 5);
-    EXPECT_EQ(line.inputMode(), 8);
-    EXPECT_TRUE(line.unlockInputAndOutputModes());
-    EXPECT_EQ(calculator.angleMode, 3);
-    EXPECT_EQ(line.digits(), 7U);
-    EXPECT_EQ(line.decimalSeparator(), u',');
-    EXPECT_EQ(line.integerGroupingSeparator(), u" ");
-    EXPECT_EQ(line.groupingDigits(), 4U);
-    EXPECT_EQ(line.textFont()->name, u"Excalibur Monospace");
-    EXPECT_TRUE(calculator.settings().includeDigitGroupingWhenCopying);
-    EXPECT_TRUE(calculator.settings().registerLabelsHidden);
-    EXPECT_FALSE(calculator.settings().autoHideXLabel);
-    EXPECT_FALSE(calculator.settings().animateWindow);
-    EXPECT_FALSE(calculator.settings().statusLinesEnabled);
-    for (const Key& key : calculator.views().allKeys()) {
+    EXPECT_EQ(second.stack().lastX, -kInfinity);
+    EXPECT_EQ(second.mem(), first.mem());
+    EXPECT_EQ(second.inputState(), InputState::lifting);
+    EXPECT_EQ(second.yDisplay().outputMode(), 5);
+    for (const Key& key : second.views().allKeys()) {
         EXPECT_EQ(key.button->toolTip(), u"") << "the desktop would show it, marks and all";
     }
-    EXPECT_FALSE(line.reduceCarpentryFractions());
-    EXPECT_TRUE(line.displayIrrationals());
-    EXPECT_FALSE(calculator.useHPStylePowerAndLogs);
-    EXPECT_EQ(calculator.layout().displayViewMode, 1);
-    EXPECT_EQ(calculator.inputState(), InputState::lifting);
-    EXPECT_EQ(calculator.yDisplay().outputMode(), 5);
+    second.takeShowKeyPadFrom();
+    for (const DrawerName name : kDrawerNames) {
+        EXPECT_TRUE(second.drawers()[name].record.isOpenOrOpening());
+    }
 }
 
 TEST_F(SavedFile, EndsALiveEntryAsEnterDoesAndASaveDoesnt) {
@@ -136,9 +143,9 @@ TEST_F(SavedFile, EndsALiveEntryAsEnterDoesAndASaveDoesnt) {
     EXPECT_EQ(calculator.inputState(), InputState::entering);
     calculator.applicationWillTerminate();
     const SavedState state = *StateFile(home).read();
-    EXPECT_EQ(state.reg[0], 42.0);
-    EXPECT_EQ(state.reg[1], 42.0);
+    EXPECT_EQ(state.reg, (std::array<double, 4>{42, 42, 0, 0}));
     EXPECT_EQ(state.inputState, 2);
+    EXPECT_TRUE(DYXWindowController(platform).views().help.window.isVisible());
 }
 
 TEST_F(SavedFile, RevertsToWhatWasSaved) {
@@ -154,9 +161,10 @@ TEST_F(SavedFile, RevertsToWhatWasSaved) {
 }
 
 TEST_F(SavedFile, LeavesTheLayoutAloneWithoutAFrame) {
-    put({{"keyPadHidden", true},
-         {"displayViewMode", std::int64_t{1}},
-         {"digits", std::int64_t{7}}});
+    put(file(), writePropertyList({{"keyPadHidden", true},
+                                   {"displayViewMode", std::int64_t{1}},
+                                   {"digits", std::int64_t{7}}},
+                                  PropertyListFlavour::xml));
     DYXWindowController calculator(platform);
     EXPECT_EQ(calculator.xDisplay().digits(), 7U);
     calculator.takeToggleMemoryDrawerFrom();
@@ -171,43 +179,34 @@ TEST_F(SavedFile, LeavesTheLayoutAloneWithoutAFrame) {
 }
 
 TEST_F(SavedFile, HasTwoSetsOfDefaults) {
-    StateFile stateFile(home);
-    EXPECT_FALSE(stateFile.read());
-    EXPECT_EQ(stateFile.prevVersion(), 10);
-    const SavedState none;
-    const SavedState empty = savedStateFrom({});
-    EXPECT_TRUE(empty.showStatusLine);
-    EXPECT_FALSE(none.showStatusLine);
-    EXPECT_TRUE(empty.includeDigitGroupingWhenCopying);
-    EXPECT_FALSE(none.includeDigitGroupingWhenCopying);
-    PropertyDictionary left = propertiesOf(empty);
-    PropertyDictionary right = propertiesOf(none);
-    EXPECT_EQ(left.size(), 61U);
-    for (PropertyDictionary* dictionary : {&left, &right}) {
-        dictionary->erase("showStatusLine");
-        dictionary->erase("includeDigitGroupingWhenCopying");
+    PropertyDictionary missing = propertiesOf(savedStateFrom({}));
+    const PropertyDictionary none = propertiesOf({});
+    EXPECT_EQ(none.size(), 61U);
+    for (const char* key : {"showStatusLine", "includeDigitGroupingWhenCopying"}) {
+        EXPECT_EQ(std::exchange(missing.at(key), false), PropertyValue(true)) << key;
     }
-    EXPECT_EQ(left, right);
+    EXPECT_EQ(missing, none);
     for (const char* key : {"animateWindow", "useHPStylePowerAndLogs", "reduceCarpentryFractions",
                             "helpPanelVisible", "autoHideXLabel", "statusLinesEnabled"}) {
-        EXPECT_EQ(left.at(key), PropertyValue(true)) << key;
+        EXPECT_EQ(none.at(key), PropertyValue(true)) << key;
     }
-    EXPECT_EQ(left.at("digits"), PropertyValue(std::int64_t{4}));
-    EXPECT_EQ(left.at("digitGroupingSeparatorMode"), PropertyValue(std::int64_t{1}));
+    EXPECT_EQ(none.at("digits"), PropertyValue(std::int64_t{4}));
+    EXPECT_EQ(none.at("digitGroupingSeparatorMode"), PropertyValue(std::int64_t{1}));
 }
 
 TEST_F(SavedFile, ReadsOlderFilesAndWritesTheNewest) {
     const fs::path folder = home / "Library/Preferences";
-    const auto write = [&](const char* name, double x) {
-        put(folder / name, writePropertyList({{"reg[0]", dataOf(x)}}, PropertyListFlavour::binary));
-    };
     StateFile stateFile(home);
-    write("com.Quondel.Talvex.data", 10);
-    EXPECT_EQ(stateFile.read()->reg[0], 10);
+    EXPECT_FALSE(stateFile.read());
     EXPECT_EQ(stateFile.prevVersion(), 10);
-    write("com.Quondel.Talvex.data.plist", 11);
-    EXPECT_EQ(stateFile.read()->reg[0], 11);
-    EXPECT_EQ(stateFile.prevVersion(), 11);
+    const std::pair<const char*, int> versions[]{{"com.Quondel.Talvex.data", 10},
+                                                 {"com.Quondel.Talvex.data.plist", 11}};
+    for (const auto& [name, number] : versions) {
+        put(folder / name,
+            writePropertyList({{"reg[0]", dataOf(number)}}, PropertyListFlavour::binary));
+        EXPECT_EQ(stateFile.read()->reg[0], number);
+        EXPECT_EQ(stateFile.prevVersion(), number);
+    }
     SavedState state;
     state.reg[0] = 12;
     EXPECT_FALSE(stateFile.write(state));
@@ -217,9 +216,8 @@ TEST_F(SavedFile, ReadsOlderFilesAndWritesTheNewest) {
 }
 
 TEST_F(SavedFile, UnderstandsOlderKeysAndOtherKinds) {
-    PropertyData native(16);
-    const std::array<float, 4> frame{1, 2, 404, 229};
-    std::memcpy(native.data(), frame.data(), native.size());
+    constexpr std::array<float, 4> kFrame{1, 2, 404, 229};
+    const auto native = std::bit_cast<std::array<std::uint8_t, 16>>(kFrame);
     const SavedState old = savedStateFrom({{"windowIsBig", false},
                                            {"keyPadHidden", false},
                                            {"memKeysWasOpen", true},
@@ -228,7 +226,7 @@ TEST_F(SavedFile, UnderstandsOlderKeysAndOtherKinds) {
                                            {"memoryDrawerState", std::int64_t{1}},
                                            {"showStatusLines", false},
                                            {"helpFame", PropertyData(16)},
-                                           {"frame", native}});
+                                           {"frame", PropertyData(native.begin(), native.end())}});
     EXPECT_TRUE(old.keyPadHidden);
     EXPECT_TRUE(old.memoryWasOpen);
     EXPECT_EQ(old.memoryDrawerState, 2);
@@ -355,13 +353,12 @@ TEST_F(SavedFile, SurvivesEveryTruncationAndManyFlippedBits) {
     for (const auto flavour : {PropertyListFlavour::xml, PropertyListFlavour::binary}) {
         const std::string whole = writePropertyList(propertiesOf(state), flavour);
         for (std::size_t length = 0; length < whole.size(); ++length) {
-            if (const auto cut = readPropertyList(whole.substr(0, length))) {
-                propertiesOf(savedStateFrom(cut->values));
-            }
             std::string flipped = whole;
             flipped[length] = static_cast<char>(flipped[length] ^ (1 << length % 8));
-            if (const auto read = readPropertyList(flipped)) {
-                propertiesOf(savedStateFrom(read->values));
+            for (const std::string& damaged : {whole.substr(0, length), flipped}) {
+                if (const auto content = readPropertyList(damaged)) {
+                    propertiesOf(savedStateFrom(content->values));
+                }
             }
             if (length % 64 == 0) {
                 put(file(), flipped);
