@@ -32,19 +32,15 @@ void append(std::string& bytes, Number number) {
     }
 }
 
-class Corpora {
-  public:
-    explicit Corpora(fs::path folder) : folder_(std::move(folder)) {}
+struct Corpora {
+    fs::path folder;
+    int count = 0;
 
     void add(const std::string& target, const std::string& bytes) {
-        fs::create_directories(folder_ / target);
-        std::ofstream(folder_ / target / ("seed-" + std::to_string(count_++)), std::ios::binary)
+        fs::create_directories(folder / target);
+        std::ofstream(folder / target / ("seed-" + std::to_string(count++)), std::ios::binary)
             << bytes;
     }
-
-  private:
-    fs::path folder_;
-    int count_ = 0;
 };
 
 // The bytes that make `display_fuzz` show the row.
@@ -131,7 +127,7 @@ int main(int argc, char** argv) {
     if (argc != 3) {
         return 2;
     }
-    Corpora corpora(argv[1]);
+    Corpora corpora{argv[1]};
     addModes(corpora);
     addExamples(corpora, argv[2]);
     addStates(corpora);

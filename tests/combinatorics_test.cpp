@@ -71,8 +71,8 @@ TEST(Choose, EndsWithTheBitsOfTheFullLoop) {
         const auto k = static_cast<std::uint32_t>(numbers.between(0.0, n + 1.0));
         EXPECT_TRUE(isSame(choose(k, n), naiveBinomial(n, k))) << k << " of " << n;
     }
-    for (std::uint32_t n = 1000; n < 1060; ++n) {
-        EXPECT_TRUE(isSame(choose(n / 2, n), naiveBinomial(n, n / 2))) << n;
+    for (std::uint32_t k = 500; k < 530; ++k) {  // about the first that exceed every double
+        EXPECT_TRUE(isSame(choose(k, 2 * k), naiveBinomial(2 * k, k))) << k;
     }
 }
 
@@ -99,7 +99,6 @@ TEST(Zeta, HasTheBitsOfTheFullLoop) {
     EXPECT_TRUE(isSame(riemannzeta(DYXnan('B')), DYXnan('B')));
     EXPECT_TRUE(isSame(riemannzeta(1.0), DYXnan('\0')));
     EXPECT_EQ(cheb(50, 50), 9.474112514963693e+37);
-    EXPECT_EQ(cheb(0, 0), 0.0);
     EXPECT_EQ(cheb(3, 4), 0.0);
 }
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "display/display_modes.h"
@@ -30,6 +30,7 @@ Table table(std::int32_t mode, std::uint32_t digits, const Rows&... rows) {
     return {mode, digits, {rows...}};
 }
 
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kHour = 12.0 + 34.0 / 60.0;
 
 const std::vector kTables{
@@ -57,7 +58,7 @@ const std::vector kTables{
     table(mode::DMS, 4, Row{"0 CHS", 360.0}, Row{"0 9 0 3 0 0 0 CHS", 269.5}, Row{"1 2", 12.0},
           Row{"0 0 1 0 0 0 1 5", 1.0 + 1.5 / 3600.0}),
     table(mode::FRC, 4, Row{".", 0.0}, Row{"5", 5.0}, Row{"5 . 3", 8.0}, Row{"1 . . 8", 1.0},
-          Row{"1 . 3 . 8 CHS", -1.375}, Row{"0 CHS", -0.0}, Row{"1 . 3 . 0 CHS", -INFINITY},
+          Row{"1 . 3 . 8 CHS", -1.375}, Row{"0 CHS", -0.0}, Row{"1 . 3 . 0 CHS", -kInfinity},
           Row{"9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9 9", 9223372036854775807.0}),
     table(mode::CAR, 4, Row{"1 . 1 CHS", -1.0625}, Row{"1 . 1 . 4", 1.25}),
     table(mode::CAR, 3, Row{". 5", 0.625}),

@@ -85,7 +85,8 @@ TEST_F(Window, HasSixLayoutsToThePixel) {
         controller.takeWindowSizingAnimationFrom({.title = {}, .action = {}, .state = isStill});
         for (const auto& [change, size] : steps) {
             (controller.*change)();
-            EXPECT_TRUE(QTest::qWaitFor([&] { return window.bodyRect() == QRect(corner, size); }))
+            const QRect body(corner, size);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return window.bodyRect() == body; }))
                 << isStill << ' ' << size.height();
         }
     }
@@ -116,7 +117,7 @@ TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
             return (record.isLevel() ? shown.height() : shown.width()) == std::lround(8.0 + depth);
         }));
         const QRect shown = widget->visibleRect();
-        const QPoint outward = kOutward.at(record.edge());
+        const QPoint outward = kOutward.at(static_cast<std::size_t>(record.edge()));
         const QPoint grip = shown.center() + QPoint(outward.x() * (shown.width() / 2 - 3),
                                                     outward.y() * (shown.height() / 2 - 3));
         const auto mouse = [&](QEvent::Type type, const QPoint& place, Qt::MouseButtons buttons) {
