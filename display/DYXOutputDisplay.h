@@ -16,12 +16,12 @@ namespace talvex {
 using TextSlot = std::shared_ptr<NSTextField>;
 
 struct DisplayFields {
-    TextSlot mantissa;
-    TextSlot mantissaSign;
-    TextSlot exponent;
-    TextSlot exponentSign;
-    TextSlot label;
-    TextSlot status;
+    TextSlot mantissa = nullptr;
+    TextSlot mantissaSign = nullptr;
+    TextSlot exponent = nullptr;
+    TextSlot exponentSign = nullptr;
+    TextSlot label = nullptr;
+    TextSlot status = nullptr;
 };
 
 // One line of the number display. A line owns no number: it is handed a double by `setOutputTo`
