@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "display/utf8.h"
-#include "ui/panel_tables.h"
 #include "ui/simple_tex.h"
+#include "ui/tables/panel_tables.h"
 
 namespace talvex {
 namespace {

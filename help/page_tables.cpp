@@ -8,8 +8,8 @@
 #include "help/PageMaker.h"
 #include "help/function_notes.h"
 #include "platform/NSEvent.h"
-#include "ui/panel_tables.h"
 #include "ui/printed_number.h"
+#include "ui/tables/panel_tables.h"
 
 namespace talvex {
 namespace {

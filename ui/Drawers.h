@@ -5,7 +5,7 @@
 
 #include "platform/NSDrawer.h"
 #include "ui/DYXStatusLineView.h"
-#include "ui/drawer_positions.h"
+#include "ui/tables/drawer_positions.h"
 
 namespace talvex {
 

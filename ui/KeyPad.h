@@ -10,7 +10,7 @@
 #include "ui/DYXButton.h"
 #include "ui/DYXStatusLineView.h"
 #include "ui/Panel.h"
-#include "ui/key_pad_table.h"
+#include "ui/tables/key_pad_table.h"
 
 namespace talvex {
 

@@ -5,10 +5,10 @@
 
 #include "core/function_tables.h"
 #include "display/ascii_text.h"
-#include "ui/drawer_positions.h"
-#include "ui/panel_tables.h"
 #include "ui/printed_number.h"
 #include "ui/simple_tex.h"
+#include "ui/tables/drawer_positions.h"
+#include "ui/tables/panel_tables.h"
 
 namespace talvex {
 namespace {

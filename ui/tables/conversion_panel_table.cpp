@@ -1,6 +1,6 @@
 #include <array>
 
-#include "ui/panel_tables.h"
+#include "ui/tables/panel_tables.h"
 
 namespace talvex {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/key_pad_table.h"
+#include "ui/tables/key_pad_table.h"
 
 #include <algorithm>
 #include <array>
