@@ -11,6 +11,12 @@ std::uint32_t codeAt(std::u16string_view string, std::size_t start) {
     return code;
 }
 
+void appendCode(std::u16string& string, std::uint32_t code) {
+    for (unsigned place = 0; place < 4; ++place) {
+        string += static_cast<unsigned char>(characterOf(code, place));
+    }
+}
+
 }  // namespace
 
 Comand commandFromString(std::u16string_view string) {
@@ -26,6 +32,16 @@ Comand commandFromString(std::u16string_view string) {
         default:
             return {};
     }
+}
+
+std::u16string stringFromCommand(const Comand& command) {
+    std::u16string string;
+    appendCode(string, command.category);
+    if (command.group != 0) {
+        appendCode(string, command.group);
+    }
+    appendCode(string, command.action);
+    return string;
 }
 
 }  // namespace talvex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace talvex {
@@ -31,8 +32,30 @@ struct Comand {
     bool operator==(const Comand&) const = default;
 };
 
-// The command that a button carries as text: "cateacti", "categrupacti" or "acti". A text of any
-// other length gives no codes at all. Of each character only the low 8 bits count.
+// A command of a key, written as its codes: `command("unit", "SQR ")`, and with the group of its
+// units between them: `command("conv", "len ", "ft  ")`.
+consteval Comand command(const char (&category)[5], const char (&action)[5]) {
+    return {.category = fourCC(category), .action = fourCC(action)};
+}
+consteval Comand command(const char (&category)[5], const char (&group)[5],
+                         const char (&action)[5]) {
+    return {.category = fourCC(category), .action = fourCC(action), .group = fourCC(group)};
+}
+
+// The key of a memory register from 0 to 99, and that of a digit, "0" to "9" or "A" to "F".
+constexpr Comand registerCommand(unsigned number) {
+    return {.category = fourCC("memo"),
+            .action = fourCC("M000") + (number / 10U << 8U) + number % 10U};
+}
+constexpr Comand digitCommand(char digit) {
+    return {.category = fourCC("data"),
+            .action = fourCC("N000") - '0' + static_cast<unsigned char>(digit)};
+}
+
+// The command that a text stands for: "cateacti", "categrupacti" or "acti". A text of any other
+// length gives no codes at all. Of each character only the low 8 bits count.
 Comand commandFromString(std::u16string_view string);
+// The text that stands for a command, of 8 characters or, with a group, of 12.
+std::u16string stringFromCommand(const Comand& command);
 
 }  // namespace talvex

@@ -10,27 +10,26 @@ namespace {
 
 // Which modifiers a press of a key leaves as they are; it clears the others.
 struct KeptModifiers {
-    std::uint32_t category = 0;
-    std::uint32_t action = 0;
+    Comand command;
     bool inverseAndHyperbolic = false;
     bool recall = false;
     bool store = false;
 };
 
 constexpr auto kKeptModifiers = std::to_array<KeptModifiers>({
-    {.category = fourCC("modi"), .action = fourCC("ARC "), .inverseAndHyperbolic = true},
-    {.category = fourCC("modi"), .action = fourCC("HYP "), .inverseAndHyperbolic = true},
-    {.category = fourCC("memo"), .action = fourCC("RCL "), .recall = true},
-    {.category = fourCC("memo"), .action = fourCC("STO "), .store = true},
-    {.category = fourCC("memo"), .action = fourCC("STO+"), .store = true},
-    {.category = fourCC("memo"), .action = fourCC("STO-"), .store = true},
-    {.category = fourCC("memo"), .action = fourCC("STO*"), .store = true},
-    {.category = fourCC("memo"), .action = fourCC("STO/"), .store = true},
+    {.command = command("modi", "ARC "), .inverseAndHyperbolic = true},
+    {.command = command("modi", "HYP "), .inverseAndHyperbolic = true},
+    {.command = command("memo", "RCL "), .recall = true},
+    {.command = command("memo", "STO "), .store = true},
+    {.command = command("memo", "STO+"), .store = true},
+    {.command = command("memo", "STO-"), .store = true},
+    {.command = command("memo", "STO*"), .store = true},
+    {.command = command("memo", "STO/"), .store = true},
 });
 
 KeptModifiers keptBy(const Comand& command) {
     for (const KeptModifiers& row : kKeptModifiers) {
-        if (row.category == command.category && row.action == command.action) {
+        if (row.command.category == command.category && row.command.action == command.action) {
             return row;
         }
     }
@@ -82,8 +81,12 @@ DisplayFields DYXCalculator::plainFields() {
             .status = slot()};
 }
 
-void DYXCalculator::doCommand(const Comand& command) {
-    static constexpr auto kCategories = std::to_array<HandlerRow>({
+bool DYXCalculator::doCommand(const Comand& command) {
+    struct Row {
+        std::uint32_t category;
+        bool (DYXCalculator::*handler)(const Comand&);
+    };
+    static constexpr auto kCategories = std::to_array<Row>({
         {fourCC("bina"), &DYXCalculator::doCommandBinary},
         {fourCC("cons"), &DYXCalculator::doCommandConstant},
         {fourCC("conv"), &DYXCalculator::doCommandConvert},
@@ -96,27 +99,17 @@ void DYXCalculator::doCommand(const Comand& command) {
         {fourCC("trin"), &DYXCalculator::doCommandTrinary},
         {fourCC("unit"), &DYXCalculator::doCommandUnitary},
     });
-    runHandler(kCategories, command.category, command);
+    const auto* const row = std::find_if(
+        kCategories.begin(), kCategories.end(),
+        [&command](const Row& candidate) { return candidate.category == command.category; });
+    const bool isKnown = row != kCategories.end() && (this->*row->handler)(command);
     roundMonetaryX();
     updateDisplay();
     lastCommand_ = command;
+    return isKnown;
 }
 
-bool DYXCalculator::runHandler(std::span<const HandlerRow> rows, std::uint32_t code,
-                               const Comand& command) {
-    const auto row = std::find_if(rows.begin(), rows.end(), [code](const HandlerRow& candidate) {
-        return candidate.code == code;
-    });
-    if (row == rows.end()) {
-        return false;
-    }
-    (this->*row->handler)(command);
-    return true;
-}
-
-void DYXCalculator::takeDYXButtonFrom(const NSButton& button) {
-    const Comand command = commandFromString(
-        button.alternateTitle().empty() ? button.title() : button.alternateTitle());
+void DYXCalculator::press(const Comand& command) {
     doCommand(command);
     clearUsedModifiers(command);
     updateModifiers();
@@ -155,15 +148,16 @@ void DYXCalculator::updateDisplay() {
     updateControls();
 }
 
-void DYXCalculator::doCommandStack(const Comand& command) {
+bool DYXCalculator::doCommandStack(const Comand& command) {
     for (const StackRow& row : kStackMoves) {
         if (row.action == command.action) {
             updateRegister();
             (stack_.*row.move)();
             inputState_ = InputState::lifting;
-            return;
+            return true;
         }
     }
+    return false;
 }
 
 }  // namespace talvex

@@ -12,7 +12,6 @@
 #include "display/DYXOutputDisplay.h"
 #include "entry/DYXInputDisplay.h"
 #include "numeric/DYXMathContext.h"
-#include "platform/NSButton.h"
 #include "platform/Platform.h"
 
 namespace talvex {
@@ -47,11 +46,12 @@ class DYXCalculator : public DYXMathContext {
     static DisplayFields plainFields();
 
     // Runs a command: its handler, the rounding of X in input mode MON, and the display; then the
-    // command becomes `lastCommand`. Unknown codes change no register and no state.
-    void doCommand(const Comand& command);
-    // A press of a key: its command, from the alternate title or else the title, with the modifiers
-    // as they are; then clears the modifiers that the press used up.
-    void takeDYXButtonFrom(const NSButton& button);
+    // command becomes `lastCommand`. Answers whether a handler knows it; an unknown one changes no
+    // register and no state.
+    bool doCommand(const Comand& command);
+    // A press of a key: its command, with the modifiers as they are; then clears the modifiers that
+    // the press used up.
+    void press(const Comand& command);
 
     // Brings X up to date with the entry, if one is live. Doesn't change the state.
     void updateRegister();
@@ -95,56 +95,47 @@ class DYXCalculator : public DYXMathContext {
     [[nodiscard]] Platform& platform() const { return platform_; }
 
   private:
-    using Handler = void (DYXCalculator::*)(const Comand&);
-    struct HandlerRow {
-        std::uint32_t code;
-        Handler handler;
-    };
-
-    // Runs the handler of the code, and answers whether there is one.
-    bool runHandler(std::span<const HandlerRow> rows, std::uint32_t code, const Comand& command);
-
     void roundMonetaryX();
     void clearUsedModifiers(const Comand& command);
 
-    void doCommandStack(const Comand& command);
+    bool doCommandStack(const Comand& command);
 
     // Data entry, in data_entry_commands.cpp.
-    void doCommandDataEntry(const Comand& command);
-    void doCommandDataEntryDigit(const Comand& command);
-    void doCommandDataEntryDecimal(const Comand& command);
-    void doCommandDataEntryBackspace(const Comand& command);
-    void doCommandDataEntryEEX(const Comand& command);
-    void doCommandDataEntrySetExponent(const Comand& command);
-    void doCommandDataEntryChangeSign(const Comand& command);
-    void doCommandDataEntryEnter(const Comand& command);
-    void doCommandDataEntryClear(const Comand& command);
-    void doCommandDataEntryClearStack(const Comand& command);
-    void doCommandDataEntryClearAll(const Comand& command);
+    bool doCommandDataEntry(const Comand& command);
+    bool doCommandDataEntryDigit(const Comand& command);
+    void doCommandDataEntryDecimal();
+    void doCommandDataEntryBackspace();
+    void doCommandDataEntryEEX();
+    bool doCommandDataEntrySetExponent(const Comand& command);
+    void doCommandDataEntryChangeSign();
+    void doCommandDataEntryEnter();
+    void doCommandDataEntryClear();
+    void doCommandDataEntryClearStack();
+    void doCommandDataEntryClearAll();
     template <class Start>
     void startEntry(Start start);
     void beginReplacing();
 
     // Memory registers, in memory_commands.cpp.
-    void doCommandMemory(const Comand& command);
+    bool doCommandMemory(const Comand& command);
     void doCommandMemoryDigit(const Comand& command);
-    void doCommandMemoryDirect(const Comand& command);
+    bool doCommandMemoryDirect(const Comand& command);
     void operateOnRegister(std::int32_t operation, unsigned number);
 
     // Units, in conversion_commands.cpp.
-    void doCommandConvert(const Comand& command);
+    bool doCommandConvert(const Comand& command);
     [[nodiscard]] bool readsConverted(const Comand& command) const;
 
     // Functions, constants and modifiers, in function_commands.cpp.
-    void doCommandUnitary(const Comand& command);
-    void doCommandBinary(const Comand& command);
-    void doCommandTrinary(const Comand& command);
-    void doCommandQuadranary(const Comand& command);
-    void doCommandNullinary(const Comand& command);
-    void doCommandConstant(const Comand& command);
-    void doCommandModifier(const Comand& command);
+    bool doCommandUnitary(const Comand& command);
+    bool doCommandBinary(const Comand& command);
+    bool doCommandTrinary(const Comand& command);
+    bool doCommandQuadranary(const Comand& command);
+    bool doCommandNullinary(const Comand& command);
+    bool doCommandConstant(const Comand& command);
+    bool doCommandModifier(const Comand& command);
     template <class Row, std::size_t... Register>
-    void applyFunction(const Row* row, std::index_sequence<Register...> registers);
+    bool applyFunction(const Row* row, std::index_sequence<Register...> registers);
     void bringNumber(double number);
 
     Platform& platform_;

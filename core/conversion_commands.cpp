@@ -16,10 +16,10 @@ bool DYXCalculator::readsConverted(const Comand& command) const {
            lastCommand_.group == command.group;
 }
 
-void DYXCalculator::doCommandConvert(const Comand& command) {
+bool DYXCalculator::doCommandConvert(const Comand& command) {
     const ConverterRow* const row = findConverter(command.group, command.action);
     if (row == nullptr) {
-        return;
+        return false;
     }
     updateRegister();
     double& quantity = converted_.at(row->group.index);
@@ -29,6 +29,7 @@ void DYXCalculator::doCommandConvert(const Comand& command) {
         quantity = row->toBase(*this, stack_.x());
     }
     inputState_ = InputState::lifting;
+    return true;
 }
 
 }  // namespace talvex

@@ -8,9 +8,25 @@
 #include "core/DYXCalculator.h"
 
 namespace talvex {
+namespace {
 
-void DYXCalculator::doCommandDataEntry(const Comand& command) {
-    static constexpr auto kActions = std::to_array<HandlerRow>({
+// Of all modes.
+constexpr std::string_view kDigits = "0123456789ABCDEFabcdef";
+
+// A sign and two digits.
+bool isExponent(std::string_view text) {
+    return std::string_view("+-").find(text[0]) != std::string_view::npos &&
+           text.find_first_not_of("0123456789", 1) == std::string_view::npos;
+}
+
+}  // namespace
+
+bool DYXCalculator::doCommandDataEntry(const Comand& command) {
+    struct Row {
+        std::uint32_t action;
+        void (DYXCalculator::*run)();
+    };
+    static constexpr auto kActions = std::to_array<Row>({
         {fourCC(".   "), &DYXCalculator::doCommandDataEntryDecimal},
         {fourCC("BACK"), &DYXCalculator::doCommandDataEntryBackspace},
         {fourCC("EEX "), &DYXCalculator::doCommandDataEntryEEX},
@@ -20,13 +36,19 @@ void DYXCalculator::doCommandDataEntry(const Comand& command) {
         {fourCC("CLRG"), &DYXCalculator::doCommandDataEntryClearStack},
         {fourCC("CLAL"), &DYXCalculator::doCommandDataEntryClearAll},
     });
-    if (runHandler(kActions, command.action, command)) {
-        return;
+    for (const Row& row : kActions) {
+        if (row.action == command.action) {
+            (this->*row.run)();
+            return true;
+        }
     }
-    if (characterOf(command.action, 0) == 'N') {
-        doCommandDataEntryDigit(command);
-    } else if (characterOf(command.action, 0) == 'E') {
-        doCommandDataEntrySetExponent(command);
+    switch (characterOf(command.action, 0)) {
+        case 'N':
+            return doCommandDataEntryDigit(command);
+        case 'E':
+            return doCommandDataEntrySetExponent(command);
+        default:
+            return false;
     }
 }
 
@@ -40,7 +62,7 @@ void DYXCalculator::startEntry(Start start) {
     inputState_ = InputState::entering;
 }
 
-void DYXCalculator::doCommandDataEntryDigit(const Comand& command) {
+bool DYXCalculator::doCommandDataEntryDigit(const Comand& command) {
     const char digit = characterOf(command.action, 3);
     const bool isEntering = inputState_ == InputState::entering;
     if (isEntering && xDisplay_->canAppendCharacter(digit)) {
@@ -50,10 +72,11 @@ void DYXCalculator::doCommandDataEntryDigit(const Comand& command) {
     } else {
         platform_.NSBeep();
     }
+    return kDigits.find(digit) != std::string_view::npos;
 }
 
 // A point that is refused in mid-entry is refused in silence.
-void DYXCalculator::doCommandDataEntryDecimal(const Comand& /*command*/) {
+void DYXCalculator::doCommandDataEntryDecimal() {
     if (inputState_ == InputState::entering) {
         if (xDisplay_->canAppendDecimal()) {
             xDisplay_->appendDecimal();
@@ -65,7 +88,7 @@ void DYXCalculator::doCommandDataEntryDecimal(const Comand& /*command*/) {
     }
 }
 
-void DYXCalculator::doCommandDataEntryEEX(const Comand& /*command*/) {
+void DYXCalculator::doCommandDataEntryEEX() {
     const bool isEntering = inputState_ == InputState::entering;
     if (isEntering && xDisplay_->canToggleInExponent()) {
         xDisplay_->toggleInExponent();
@@ -76,7 +99,7 @@ void DYXCalculator::doCommandDataEntryEEX(const Comand& /*command*/) {
     }
 }
 
-void DYXCalculator::doCommandDataEntrySetExponent(const Comand& command) {
+bool DYXCalculator::doCommandDataEntrySetExponent(const Comand& command) {
     const std::array exponent{characterOf(command.action, 1), characterOf(command.action, 2),
                               characterOf(command.action, 3)};
     const std::string_view text(exponent.data(), exponent.size());
@@ -88,9 +111,10 @@ void DYXCalculator::doCommandDataEntrySetExponent(const Comand& command) {
     } else {
         platform_.NSBeep();
     }
+    return isExponent(text);
 }
 
-void DYXCalculator::doCommandDataEntryBackspace(const Comand& /*command*/) {
+void DYXCalculator::doCommandDataEntryBackspace() {
     if (inputState_ != InputState::entering) {
         beginReplacing();
         return;
@@ -103,7 +127,7 @@ void DYXCalculator::doCommandDataEntryBackspace(const Comand& /*command*/) {
 }
 
 // Flips the sign bit of a finished X: of zero and of error values too.
-void DYXCalculator::doCommandDataEntryChangeSign(const Comand& /*command*/) {
+void DYXCalculator::doCommandDataEntryChangeSign() {
     if (inputState_ != InputState::entering) {
         stack_.x() = std::copysign(stack_.x(), std::signbit(stack_.x()) ? 1.0 : -1.0);
         inputState_ = InputState::lifting;
@@ -112,7 +136,7 @@ void DYXCalculator::doCommandDataEntryChangeSign(const Comand& /*command*/) {
     }
 }
 
-void DYXCalculator::doCommandDataEntryEnter(const Comand& /*command*/) {
+void DYXCalculator::doCommandDataEntryEnter() {
     updateRegister();
     stack_.pushOntoStack();
     inputState_ = InputState::replacing;
@@ -124,14 +148,14 @@ void DYXCalculator::beginReplacing() {
     inputState_ = InputState::replacing;
 }
 
-void DYXCalculator::doCommandDataEntryClear(const Comand& /*command*/) { beginReplacing(); }
+void DYXCalculator::doCommandDataEntryClear() { beginReplacing(); }
 
-void DYXCalculator::doCommandDataEntryClearStack(const Comand& /*command*/) {
+void DYXCalculator::doCommandDataEntryClearStack() {
     stack_.reg.fill(0.0);
     beginReplacing();
 }
 
-void DYXCalculator::doCommandDataEntryClearAll(const Comand& /*command*/) {
+void DYXCalculator::doCommandDataEntryClearAll() {
     stack_.reg.fill(0.0);
     mem_.fill(0.0);
     beginReplacing();

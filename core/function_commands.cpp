@@ -15,31 +15,33 @@ constexpr double kLargestRandom = 4294967295.0;
 
 // The function takes the first registers, and the stack drops by those beyond X.
 template <class Row, std::size_t... Register>
-void DYXCalculator::applyFunction(const Row* row, std::index_sequence<Register...> /*registers*/) {
+bool DYXCalculator::applyFunction(const Row* row, std::index_sequence<Register...> /*registers*/) {
     if (row == nullptr) {
-        return;
+        return false;
     }
     updateRegister();
     stack_.lastX = stack_.x();
     stack_.x() = (*row)(*this, stack_.reg[Register]...);
     stack_.dropOntoXReg(sizeof...(Register) - 1);
     inputState_ = InputState::lifting;
+    return true;
 }
 
-void DYXCalculator::doCommandUnitary(const Comand& command) {
-    applyFunction(findFunction(unitaries(), command.action), std::make_index_sequence<1>());
+bool DYXCalculator::doCommandUnitary(const Comand& command) {
+    return applyFunction(findFunction(unitaries(), command.action), std::make_index_sequence<1>());
 }
 
-void DYXCalculator::doCommandBinary(const Comand& command) {
-    applyFunction(findFunction(binaries(), command.action), std::make_index_sequence<2>());
+bool DYXCalculator::doCommandBinary(const Comand& command) {
+    return applyFunction(findFunction(binaries(), command.action), std::make_index_sequence<2>());
 }
 
-void DYXCalculator::doCommandTrinary(const Comand& command) {
-    applyFunction(findFunction(trinaries(), command.action), std::make_index_sequence<3>());
+bool DYXCalculator::doCommandTrinary(const Comand& command) {
+    return applyFunction(findFunction(trinaries(), command.action), std::make_index_sequence<3>());
 }
 
-void DYXCalculator::doCommandQuadranary(const Comand& command) {
-    applyFunction(findFunction(quadranaries(), command.action), std::make_index_sequence<4>());
+bool DYXCalculator::doCommandQuadranary(const Comand& command) {
+    return applyFunction(findFunction(quadranaries(), command.action),
+                         std::make_index_sequence<4>());
 }
 
 // A command that brings a number lifts the stack in every state.
@@ -50,24 +52,28 @@ void DYXCalculator::bringNumber(double number) {
     inputState_ = InputState::lifting;
 }
 
-void DYXCalculator::doCommandConstant(const Comand& command) {
-    if (const ConstantRow* row = findConstant(command.action)) {
+bool DYXCalculator::doCommandConstant(const Comand& command) {
+    const ConstantRow* const row = findConstant(command.action);
+    if (row != nullptr) {
         bringNumber(row->value);
     }
+    return row != nullptr;
 }
 
-void DYXCalculator::doCommandNullinary(const Comand& command) {
-    if (command.action == fourCC("RAND")) {
+bool DYXCalculator::doCommandNullinary(const Comand& command) {
+    const bool isRandom = command.action == fourCC("RAND");
+    if (isRandom) {
         bringNumber(platform_.arc4random() / kLargestRandom);
     }
+    return isRandom;
 }
 
-void DYXCalculator::doCommandModifier(const Comand& command) {
-    if (command.action == fourCC("ARC ")) {
-        inverse = !inverse;
-    } else if (command.action == fourCC("HYP ")) {
-        hyperbolic = !hyperbolic;
-    }
+bool DYXCalculator::doCommandModifier(const Comand& command) {
+    const bool isInverse = command.action == fourCC("ARC ");
+    const bool isHyperbolic = command.action == fourCC("HYP ");
+    inverse = inverse != isInverse;
+    hyperbolic = hyperbolic != isHyperbolic;
+    return isInverse || isHyperbolic;
 }
 
 }  // namespace talvex

@@ -53,7 +53,8 @@ const StoreOperation* findByStore(std::int32_t store) {
 
 }  // namespace
 
-void DYXCalculator::doCommandMemory(const Comand& command) {
+bool DYXCalculator::doCommandMemory(const Comand& command) {
+    bool isKnown = true;
     const StoreOperation* armed = nullptr;
     for (const StoreOperation& row : kStoreOperations) {
         armed = row.armingAction == command.action ? &row : armed;
@@ -70,9 +71,10 @@ void DYXCalculator::doCommandMemory(const Comand& command) {
     } else if (isRegisterKey(command.action)) {
         doCommandMemoryDigit(command);
     } else {
-        doCommandMemoryDirect(command);
+        isKnown = doCommandMemoryDirect(command);
     }
     updateModifiers();
+    return isKnown;
 }
 
 // Operation 0 recalls the register, the others store X in it.
@@ -97,14 +99,14 @@ void DYXCalculator::doCommandMemoryDigit(const Comand& command) {
 }
 
 // The forms that name their operation, whatever is armed. They don't reach register 0.
-void DYXCalculator::doCommandMemoryDirect(const Comand& command) {
+bool DYXCalculator::doCommandMemoryDirect(const Comand& command) {
     const char prefix = characterOf(command.action, 0);
     std::int32_t operation = prefix == kDirectRecallPrefix ? kNothingArmed : -1;
     for (const StoreOperation& row : kStoreOperations) {
         operation = row.directPrefix == prefix ? row.store : operation;
     }
     if (operation < 0) {
-        return;
+        return false;
     }
     updateRegister();
     const unsigned number = registerNumber(command.action);
@@ -113,6 +115,7 @@ void DYXCalculator::doCommandMemoryDirect(const Comand& command) {
     }
     store_ = kNothingArmed;
     inputState_ = InputState::lifting;
+    return number < kRegisterKeys;
 }
 
 }  // namespace talvex

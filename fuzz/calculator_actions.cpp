@@ -17,8 +17,7 @@ Comand likelyCommand(FuzzInput& input) {
     const auto keys = keyPadRows();
     const auto hotKeys = hotKeyRows();
     const std::size_t choice = input.take<std::uint16_t>() % (keys.size() + hotKeys.size());
-    return choice < keys.size() ? commandFromString(keys[choice].command)
-                                : hotKeys[choice - keys.size()].command;
+    return choice < keys.size() ? keys[choice].command : hotKeys[choice - keys.size()].command;
 }
 
 std::u16string randomText(FuzzInput& input) {

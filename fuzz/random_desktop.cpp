@@ -103,7 +103,7 @@ void RandomUser::useHelp() {
     const std::vector<Key> keys = controller.views().allKeys();
     switch (below(4)) {
         case 0:
-            controller.showHelpFor(anyOf(keys).button->alternateTitle());
+            controller.showHelpFor(anyOf(keys).button->command());
             break;
         case 1:
             controller.views().help.matrix->performClickAt(

@@ -12,19 +12,19 @@ namespace talvex {
 namespace {
 
 // Keys that show a picture in place of a title.
-constexpr auto kPictures = std::to_array<std::pair<std::u16string_view, std::u16string_view>>({
-    {u"dataE-03", u"10^{\u22123}"},
-    {u"dataE-06", u"10^{\u22126}"},
-    {u"dataE-09", u"10^{\u22129}"},
-    {u"dataE+03", u"10^{3}"},
-    {u"dataE+06", u"10^{6}"},
-    {u"dataE+09", u"10^{9}"},
-    {u"bina^   ", u"y^x"},
-    {u"bina~   ", u"log_{y}x"},
-    {u"data.   ", u"."},
+constexpr auto kPictures = std::to_array<std::pair<Comand, std::u16string_view>>({
+    {command("data", "E-03"), u"10^{\u22123}"},
+    {command("data", "E-06"), u"10^{\u22126}"},
+    {command("data", "E-09"), u"10^{\u22129}"},
+    {command("data", "E+03"), u"10^{3}"},
+    {command("data", "E+06"), u"10^{6}"},
+    {command("data", "E+09"), u"10^{9}"},
+    {command("bina", "^   "), u"y^x"},
+    {command("bina", "~   "), u"log_{y}x"},
+    {command("data", ".   "), u"."},
 });
 
-std::u16string pictureOf(std::u16string_view command) {
+std::u16string pictureOf(const Comand& command) {
     for (const auto& [picture, tex] : kPictures) {
         if (picture == command) {
             return std::u16string(tex);
@@ -104,7 +104,7 @@ KeyCaps::KeyCaps() {
 
 // Of two keys with one name the first counts.
 void KeyCaps::add(const Key& key, const std::string& prefix) {
-    Cap cap{.command = key.button->alternateTitle(),
+    Cap cap{.command = key.button->command(),
             .title = key.button->title(),
             .hint = key.button->toolTip()};
     if (cap.title.empty()) {
@@ -124,8 +124,8 @@ const KeyCaps::Cap* KeyCaps::named(const std::string& name) const {
     return place != byName_.end() ? &caps_[place->second] : nullptr;
 }
 
-const KeyCaps::Cap* KeyCaps::ofCommand(std::u16string_view command) const {
-    const auto cap = std::find_if(caps_.begin(), caps_.end(), [command](const Cap& candidate) {
+const KeyCaps::Cap* KeyCaps::ofCommand(const Comand& command) const {
+    const auto cap = std::find_if(caps_.begin(), caps_.end(), [&command](const Cap& candidate) {
         return candidate.command == command;
     });
     return cap != caps_.end() ? &*cap : nullptr;
@@ -135,10 +135,8 @@ KeyCaps::Step KeyCaps::step(const std::string& word) const {
     if (!word.empty() && word.find_first_not_of(kTyped) == std::string::npos) {
         Step step{.commands = {}, .html = "<span class='typed'>" + word + "</span>"};
         for (const char character : word) {
-            step.commands.push_back(character == '.'
-                                        ? u"data.   "
-                                        : u"dataN00" +
-                                              std::u16string(1, static_cast<char16_t>(character)));
+            step.commands.push_back(character == '.' ? command("data", ".   ")
+                                                     : digitCommand(character));
         }
         return step;
     }

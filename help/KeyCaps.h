@@ -25,13 +25,13 @@ class KeyCaps {
     KeyCaps();
 
     struct Cap {
-        std::u16string command;
+        Comand command;
         std::u16string title;
         std::u16string hint;
     };
     // Null for a name that no key has.
     [[nodiscard]] const Cap* named(const std::string& name) const;
-    [[nodiscard]] const Cap* ofCommand(std::u16string_view command) const;
+    [[nodiscard]] const Cap* ofCommand(const Comand& command) const;
     // The keys of the key pad, of the drawers or of a page of units, in their order.
     [[nodiscard]] const std::vector<Cap>& all() const { return caps_; }
     [[nodiscard]] const HotKeys& hotKeys() const { return hotKeys_; }
@@ -39,7 +39,7 @@ class KeyCaps {
     // One step of a calculation as the help writes it: a number as it is typed, or a key by its
     // name.
     struct Step {
-        std::vector<std::u16string> commands;
+        std::vector<Comand> commands;
         std::string html;
     };
     // Nothing if there is neither such a key nor such a number.

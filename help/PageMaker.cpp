@@ -89,10 +89,8 @@ bool applySettings(DYXWindowController& calculator, std::string_view settings) {
 }
 
 void press(DYXCalculator& calculator, const KeyCaps::Step& step) {
-    for (const std::u16string& command : step.commands) {
-        NSButton key;
-        key.setAlternateTitle(command);
-        calculator.takeDYXButtonFrom(key);
+    for (const Comand& command : step.commands) {
+        calculator.press(command);
     }
 }
 

@@ -17,9 +17,9 @@ namespace {
 constexpr const char* kTable = "<table class='facts' cellspacing='0' cellpadding='4'>\n";
 
 // An anchor by the command of a key, its blanks as they stand in a URL.
-std::string anchor(std::u16string_view command) {
+std::string anchor(const Comand& command) {
     std::string name;
-    for (const char16_t unit : command) {
+    for (const char16_t unit : stringFromCommand(command)) {
         const std::string text = htmlText({&unit, 1});
         name += text;
     }
@@ -51,13 +51,12 @@ bool isOnPad(const KeyCaps& caps, const KeyCaps::Cap& cap) {
 
 // The keys are told in signs, of which Clear and the backspace share one.
 std::u16string hotKeyText(const KeyCaps& caps, const KeyCaps::Cap& cap) {
-    const Comand command = commandFromString(cap.command);
     for (const HotKey& row : caps.hotKeys().rows()) {
-        if (row.command == command && row.key == NSClearLineFunctionKey) {
+        if (row.command == cap.command && row.key == NSClearLineFunctionKey) {
             return u"[Clear]";
         }
     }
-    return caps.hotKeys().hotKeyStringForCommandString(cap.command);
+    return caps.hotKeys().hotKeyStringForCommand(cap.command);
 }
 
 }  // namespace
@@ -65,7 +64,7 @@ std::u16string hotKeyText(const KeyCaps& caps, const KeyCaps::Cap& cap) {
 std::string constantsTable() {
     std::string table = kTable + head({"Key", "Constant", "Value", "Unit"});
     for (const ConstantKeyRow& constant : constantKeyRows()) {
-        const double value = findConstant(commandFromString(constant.command).action)->value;
+        const double value = findConstant(constant.command.action)->value;
         table +=
             row(cell(anchor(constant.command) + keyCap(constant.title)) +
                 cell(htmlText(constant.name)) + cell(htmlOfTex(printedNumber(value)), "number") +
@@ -79,8 +78,7 @@ std::string unitsTables(const KeyCaps& caps) {
     for (const UnitPage& page : unitPages()) {
         tables += "<h3>" + htmlText(page.label) + "</h3>\n" + kTable;
         for (const UnitKeyRow& unit : page.units) {
-            const std::u16string command =
-                u"conv" + std::u16string(page.group) + std::u16string(unit.action);
+            const Comand command = page.commandOf(unit);
             const KeyCaps::Cap* const cap = caps.ofCommand(command);
             tables += row(cell(anchor(command) + keyCap(cap->title)) + cell(htmlOfHint(cap->hint)));
         }
@@ -139,8 +137,7 @@ std::string keyboardPicture(const KeyCaps& caps) {
             const HotKey* const hotKey = caps.hotKeys().find(key, {});
             const KeyCaps::Cap* cap = nullptr;
             for (const KeyCaps::Cap& candidate : caps.all()) {
-                const bool isIt =
-                    hotKey != nullptr && commandFromString(candidate.command) == hotKey->command;
+                const bool isIt = hotKey != nullptr && candidate.command == hotKey->command;
                 cap = cap == nullptr && isIt ? &candidate : cap;
             }
             cells += "<td class='" + std::string(cap != nullptr ? "cap" : "blank") +

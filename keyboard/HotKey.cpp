@@ -72,13 +72,13 @@ const HotKey* HotKeys::find(char16_t character, const HotKeyState& state) const 
 }
 
 void HotKeys::followDecimalSeparator(char16_t separator) {
-    const Comand point{.category = fourCC("data"), .action = fourCC(".   ")};
+    constexpr Comand kPoint = command("data", ".   ");
     for (HotKey& row : rows_) {
         const bool isPlainKey = row.modifierMask == 0 && row.modifierTest == HotKeyTest::all;
         if (row.key == separator && isPlainKey) {
             return;
         }
-        if (row.command == point) {
+        if (row.command == kPoint) {
             row.key = separator;
             return;
         }
@@ -105,8 +105,7 @@ std::u16string stringForHotKey(const HotKey& hotKey) {
     return {};
 }
 
-std::u16string HotKeys::hotKeyStringForCommandString(std::u16string_view string) const {
-    const Comand command = commandFromString(string);
+std::u16string HotKeys::hotKeyStringForCommand(const Comand& command) const {
     std::u16string result;
     for (const HotKey& row : rows_) {
         const std::u16string text = row.command == command ? stringForHotKey(row) : u"";

@@ -62,7 +62,7 @@ class HotKeys {
 
     // All keys of a command as a text such as "[s]" or "[\u23CE|\u2324]", in the mark-up of status
     // texts; empty if no key that can be told in a text has it.
-    [[nodiscard]] std::u16string hotKeyStringForCommandString(std::u16string_view string) const;
+    [[nodiscard]] std::u16string hotKeyStringForCommand(const Comand& command) const;
 
     [[nodiscard]] std::span<const HotKey> rows() const { return rows_; }
 

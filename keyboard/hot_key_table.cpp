@@ -6,10 +6,6 @@
 namespace talvex {
 namespace {
 
-consteval Comand command(const char (&category)[5], const char (&action)[5]) {
-    return {.category = fourCC(category), .action = fourCC(action)};
-}
-
 constexpr std::int32_t kAnyModifier =
     storeCondition | recallCondition | inverseCondition | hyperbolicCondition;
 
@@ -100,6 +96,20 @@ constexpr auto kHotKeys = std::to_array<HotKey>({
     {command("bina", "^   "), u'^', 0, HotKeyTest::all},
     {command("bina", "~   "), u'~', 0, HotKeyTest::all},
 });
+
+// Whether the keys of one command stand together, so that a row with a wrong command stands out.
+consteval bool keepsKeysOfACommandTogether() {
+    for (std::size_t first = 0; first < kHotKeys.size(); ++first) {
+        for (std::size_t second = first + 2; second < kHotKeys.size(); ++second) {
+            if (kHotKeys[first].command == kHotKeys[second].command &&
+                kHotKeys[second - 1].command != kHotKeys[second].command) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+static_assert(keepsKeysOfACommandTogether());
 
 }  // namespace
 

@@ -72,7 +72,7 @@ Picture pictureOf(const WindowLayout& layout) {
     }
     if (layout.showStatusLine) {
         controller.takeShowStatusLineFrom();
-        controller.views().keyPad.button(u"unitGSIN").pointerMoved(NSPoint{1.0, 1.0});
+        controller.views().keyPad.button(command("unit", "GSIN")).pointerMoved(NSPoint{1.0, 1.0});
     }
     if (layout.keyPadHidden) {
         controller.takeShowKeyPadFrom();

@@ -12,10 +12,6 @@ void NSButton::setAttributedTitle(NSAttributedString title) {
     update(attributedTitle_, std::move(title));
 }
 
-void NSButton::setAlternateTitle(std::u16string title) {
-    update(alternateTitle_, std::move(title));
-}
-
 void NSButton::setImage(std::u16string name) { update(image_, std::move(name)); }
 
 void NSButton::setAlternateImage(std::u16string name) { update(alternateImage_, std::move(name)); }

@@ -33,9 +33,6 @@ class NSButton : public NSView {
     [[nodiscard]] const NSAttributedString& attributedTitle() const { return attributedTitle_; }
     void setAttributedTitle(NSAttributedString title);
 
-    [[nodiscard]] const std::u16string& alternateTitle() const { return alternateTitle_; }
-    void setAlternateTitle(std::u16string title);
-
     [[nodiscard]] const std::u16string& image() const { return image_; }
     void setImage(std::u16string name);
     [[nodiscard]] const std::u16string& alternateImage() const { return alternateImage_; }
@@ -73,7 +70,6 @@ class NSButton : public NSView {
   private:
     std::u16string title_;
     NSAttributedString attributedTitle_;
-    std::u16string alternateTitle_;
     std::u16string image_;
     std::u16string alternateImage_;
     NSImagePosition imagePosition_ = NSImagePosition::noImage;

@@ -176,10 +176,10 @@ void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) { place_.tellRecord(); }
 void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
     NSMenu menu = controller_.views().menu;
     const auto* const key = dynamic_cast<const KeyButton*>(childAt(event->pos()));
-    if (key != nullptr && !key->record().alternateTitle().empty()) {
+    if (key != nullptr && key->hasHelp()) {
         NSMenuItem item;
         item.title = helpOn_ + u" \u201C" + key->record().accessibilityLabel() + u"\u201D";
-        item.action = [this, command = key->record().alternateTitle()](const NSMenuItem&) {
+        item.action = [this, command = key->record().command()](const NSMenuItem&) {
             controller_.showHelpFor(command);
         };
         menu.items.insert(menu.items.begin(), {std::move(item), NSMenuItem{}});

@@ -14,11 +14,12 @@ constexpr double kTextMargin = 3.0;
 
 }  // namespace
 
-KeyButton::KeyButton(NSButton& record, KeyGroup group, QWidget* parent)
-    : ControlButton(&record, parent),
-      record_(record),
-      group_(group),
-      observer_(*this, record, [this] { setChecked(record_.state() != 0); }) {
+KeyButton::KeyButton(const Key& key, QWidget* parent)
+    : ControlButton(key.button.get(), parent),
+      record_(*key.button),
+      group_(key.group),
+      keyClass_(key.keyClass),
+      observer_(*this, record_, [this] { setChecked(record_.state() != 0); }) {
     setCheckable(isModifier());
     setChecked(record_.state() != 0);
     connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
@@ -48,7 +49,7 @@ void KeyButton::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void KeyButton::paintTitle(QPainter& painter, const QRectF& rect, const QColor& color) const {
-    if (record_.alternateTitle() == u"lock") {
+    if (keyClass_ == KeyClass::lock) {
         paintPadlock(painter, rect, record_.state() != 0, color);
         return;
     }

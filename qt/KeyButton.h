@@ -1,18 +1,20 @@
 #pragma once
 
-#include "platform/NSButton.h"
 #include "qt/ControlButton.h"
 #include "qt/RecordObserver.h"
 #include "qt/palette.h"
+#include "ui/Panel.h"
 
 namespace talvex {
 
 // A key of the key pad on the screen.
 class KeyButton final : public ControlButton {
   public:
-    KeyButton(NSButton& record, KeyGroup group, QWidget* parent);
+    KeyButton(const Key& key, QWidget* parent);
 
-    [[nodiscard]] const NSButton& record() const { return record_; }
+    [[nodiscard]] const CommandButton& record() const { return record_; }
+    // Whether the help has something on what the key does.
+    [[nodiscard]] bool hasHelp() const { return keyClass_ != KeyClass::drawer; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -23,8 +25,9 @@ class KeyButton final : public ControlButton {
     [[nodiscard]] bool isModifier() const;
     void paintTitle(QPainter& painter, const QRectF& rect, const QColor& color) const;
 
-    NSButton& record_;
+    CommandButton& record_;
     KeyGroup group_;
+    KeyClass keyClass_;
     RecordObserver observer_;
 };
 

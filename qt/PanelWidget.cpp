@@ -36,7 +36,7 @@ void StatusFieldWidget::paintEvent(QPaintEvent* /*event*/) {
 PanelWidget::PanelWidget(NSView& view, const std::vector<Key>& keys, QWidget* parent)
     : QWidget(parent), observer_(*this, view) {
     for (const Key& key : keys) {
-        new KeyButton(*key.button, key.group, this);
+        new KeyButton(key, this);
     }
 }
 

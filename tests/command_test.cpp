@@ -18,6 +18,10 @@ namespace {
 
 TEST(CommandString, ItsLengthSaysWhatItHolds) {
     EXPECT_EQ(commandFromString(u"SIN "), (Comand{.action = fourCC("SIN ")}));
+    EXPECT_EQ(commandFromString(u"convlen ft  "), command("conv", "len ", "ft  "));
+    EXPECT_EQ(stringFromCommand(command("conv", "len ", "ft  ")), u"convlen ft  ");
+    EXPECT_EQ(stringFromCommand(digitCommand('7')), u"dataN007");
+    EXPECT_EQ(registerCommand(19), command("memo", "M019"));
     EXPECT_EQ(commandFromString(u"\u2161\u0162\u0041\uFF20").action, 0x61624120U);
     for (std::size_t length = 0; length < 40; ++length) {
         const bool isCommand = commandFromString(std::u16string(length, u'x')) != Comand{};
@@ -35,12 +39,10 @@ TEST(KeyPress, LeavesOfTheModifiersWhatItsKindLeaves) {
     KeyScript script;
     DYXCalculator& calculator = script.calculator;
     const auto press = [&](const std::u16string& command, bool isRecallArmed) {
-        NSButton button;
-        button.setTitle(command);
         calculator.inverse = calculator.hyperbolic = true;
         calculator.setRecall(isRecallArmed);
         calculator.setStore(2);
-        calculator.takeDYXButtonFrom(button);
+        calculator.press(commandFromString(command));
         return modifiersOf(calculator);
     };
     const std::pair<std::u16string, std::string> rows[]{

@@ -122,11 +122,9 @@ TEST(UnitKeys, WriteFirstAndReadNext) {
         {"convlen m   ", 600'000, 600'000},
     };
     KeyScript script;
-    NSButton key;
     for (const auto& step : steps) {
         SCOPED_TRACE(step.command);
-        key.setAlternateTitle(asciiText(step.command));
-        script.calculator.takeDYXButtonFrom(key);
+        script.calculator.press(commandFromString(asciiText(step.command)));
         EXPECT_EQ(script.x(), step.x);
         EXPECT_EQ(script.calculator.converted()[1], step.metres);
     }

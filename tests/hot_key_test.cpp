@@ -58,7 +58,7 @@ TEST(HotKeys, AreToldInTheMarkUpOfStatusTexts) {
                                        {u"memoM003", u""},
                                        {u"unitZETA", u""}};
     for (const auto& [command, text] : rows) {
-        EXPECT_EQ(hotKeys.hotKeyStringForCommandString(command), text)
+        EXPECT_EQ(hotKeys.hotKeyStringForCommand(commandFromString(command)), text)
             << testing::PrintToString(command);
     }
     const std::pair<std::int32_t, Text> masks[]{

@@ -27,8 +27,8 @@ class Keyboard : public testing::Test {
         window().sendEvent({.type = NSFlagsChanged, .modifierFlags = flags});
     }
     void click(std::u16string_view command) { button(command).performClick(); }
-    NSButton& button(std::u16string_view command) {
-        return controller.views().keyPad.button(command);
+    NSButton& button(std::u16string_view text) {
+        return controller.views().keyPad.button(commandFromString(text));
     }
     NSWindow& window() { return controller.views().window; }
     void setX(double x) {

@@ -23,14 +23,14 @@ NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
 
 class Panels : public testing::Test {
   protected:
-    [[nodiscard]] NSButton& key(std::u16string_view command, bool inDrawer = true) const {
+    [[nodiscard]] NSButton& key(std::u16string_view text, bool inDrawer = true) const {
         for (const Key& each : controller.views().allKeys()) {
             const bool isOnPad = each.button->superview() == controller.views().keyPad.view().get();
-            if (each.button->alternateTitle() == command && isOnPad != inDrawer) {
+            if (each.button->command() == commandFromString(text) && isOnPad != inDrawer) {
                 return *each.button;
             }
         }
-        ADD_FAILURE() << "no key " << testing::PrintToString(Text(command));
+        ADD_FAILURE() << "no key " << testing::PrintToString(Text(text));
         return *controller.views().keyPad.keys().front().button;
     }
     static void enter(NSView& view) { view.pointerMoved(NSPoint{1, 1}); }
@@ -51,7 +51,7 @@ TEST_F(Panels, HaveAKeyForEveryCommand) {
     for (const int mode : {0, 8}) {
         controller.takeInputModeFrom(itemOf(mode));
         for (const Key& each : controller.views().allKeys()) {
-            reached.push_back(commandFromString(each.button->alternateTitle()));
+            reached.push_back(each.button->command());
         }
     }
     constexpr std::u16string_view kKeyless =
@@ -91,7 +91,7 @@ TEST_F(Panels, HaveAKeyForEveryCommand) {
 TEST_F(Panels, HaveKeysThatLieApartWithinTheirPanels) {
     const std::vector<Key> keys = controller.views().allKeys();
     for (const Key& one : keys) {
-        SCOPED_TRACE(testing::PrintToString(one.button->alternateTitle()));
+        SCOPED_TRACE(testing::PrintToString(one.button->accessibilityLabel()));
         const NSRect& a = one.button->frame();
         const NSRect within = one.button->superview()->bounds();
         EXPECT_TRUE(a.x >= 0 && a.y >= 0 && a.x + a.width <= within.width &&

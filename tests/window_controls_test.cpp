@@ -18,8 +18,8 @@ NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
 
 class WindowControls : public testing::Test {
   protected:
-    NSButton& button(std::u16string_view command) {
-        return controller.views().keyPad.button(command);
+    NSButton& button(std::u16string_view text) {
+        return controller.views().keyPad.button(commandFromString(text));
     }
     // Everything that a command may change.
     [[nodiscard]] auto state() const {
@@ -39,7 +39,7 @@ class WindowControls : public testing::Test {
 
 TEST_F(WindowControls, EveryKeyHasANameAndACommandThatDoesSomething) {
     for (const Key& key : controller.views().allKeys()) {
-        NSButton& button = *key.button;
+        CommandButton& button = *key.button;
         SCOPED_TRACE(testing::PrintToString(button.accessibilityLabel()));
         EXPECT_FALSE(button.accessibilityLabel().empty());
         EXPECT_EQ(button.keyEquivalent(), u"");
@@ -47,7 +47,7 @@ TEST_F(WindowControls, EveryKeyHasANameAndACommandThatDoesSomething) {
         controller.mem().fill(6.0);
         controller.setInputState(InputState::replacing);
         // Cancelling shows only where something is armed.
-        controller.setStore(button.alternateTitle() == u"memoSTOC" ? 1 : 0);
+        controller.setStore(button.command() == command("memo", "STOC") ? 1 : 0);
         const auto before = state();
         button.performClick();
         EXPECT_NE(state(), before);

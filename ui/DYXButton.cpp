@@ -7,22 +7,18 @@
 namespace talvex {
 namespace {
 
-constexpr std::uint32_t kEveryHighlight =
-    NSPushInCellMask | NSContentsCellMask | NSChangeGrayCellMask | NSChangeBackgroundCellMask;
 constexpr std::uint32_t kPushedAndColored = NSPushInCellMask | NSChangeBackgroundCellMask;
 
 }  // namespace
 
-ZUButton::ZUButton(const NSRect& frame) : NSButton(frame) { setHighlightsBy(kEveryHighlight); }
-
-ZUModifierButton::ZUModifierButton(const NSRect& frame) : NSButton(frame) {
+ZUModifierButton::ZUModifierButton(const NSRect& frame) : CommandButton(frame) {
     setShowsStateBy(kPushedAndColored);
     setHighlightsBy(kPushedAndColored);
 }
 
 DYXButton::DYXButton(const NSRect& frame, const std::u16string& title, const NSFont& font,
                      LogPort& log)
-    : NSButton(frame), log_(log) {
+    : CommandButton(frame), log_(log) {
     setTitle(title);
     setFont(font);
     setAttributedTitle(attributedStringFromSimpleTex(title));

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/Comand.h"
 #include "platform/NSButton.h"
 #include "platform/Platform.h"
 
@@ -14,20 +15,27 @@ enum class KeyGroup { digit, enter, operation, function, shift, memory, stack, c
 // of the output mode, or moves a drawer. All but the first show whether they are on.
 enum class KeyClass { key, modifier, lock, drawer };
 
-// A button that shows a press in every way that it can.
-class ZUButton : public NSButton {
+// A button that carries a command, for whoever runs it at a click.
+class CommandButton : public NSButton {
   public:
-    explicit ZUButton(const NSRect& frame);
+    using NSButton::NSButton;
+
+    // No codes where a click does something else.
+    [[nodiscard]] const Comand& command() const { return command_; }
+    void setCommand(const Comand& command) { command_ = command; }
+
+  private:
+    Comand command_;
 };
 
 // A two-state button for the modifier keys.
-class ZUModifierButton : public NSButton {
+class ZUModifierButton : public CommandButton {
   public:
     explicit ZUModifierButton(const NSRect& frame);
 };
 
 // A key of the key pad, whose title is simple TeX.
-class DYXButton : public NSButton {
+class DYXButton : public CommandButton {
   public:
     // The log has to outlive the button.
     DYXButton(const NSRect& frame, const std::u16string& title, const NSFont& font, LogPort& log);

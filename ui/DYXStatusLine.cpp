@@ -1,15 +1,15 @@
 #include "ui/DYXStatusLine.h"
 
-#include "platform/NSButton.h"
+#include "ui/DYXButton.h"
 #include "ui/simple_tex.h"
 
 namespace talvex {
 namespace {
 
 std::u16string textOf(const NSView& view, const HotKeys& hotKeys) {
-    const auto* const button = dynamic_cast<const NSButton*>(&view);
+    const auto* const button = dynamic_cast<const CommandButton*>(&view);
     const std::u16string hot =
-        button != nullptr ? hotKeys.hotKeyStringForCommandString(button->alternateTitle()) : u"";
+        button != nullptr ? hotKeys.hotKeyStringForCommand(button->command()) : u"";
     const std::u16string& tip = view.toolTip();
     return hot.empty() || tip.empty() ? hot + tip : hot + u" : " + tip;
 }

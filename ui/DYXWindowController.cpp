@@ -58,8 +58,8 @@ DYXWindowController::~DYXWindowController() { platform().dropPasteboardRequest()
 void DYXWindowController::connectControls() {
     views_->window.setDelegate(this);
     views_->displayView->setDelegate(this);
-    const auto runKey = [this](NSButton& button) {
-        takeDYXButtonFrom(button);
+    const KeyAction runKey = [this](const Comand& command) {
+        press(command);
         giveUpPaste();
     };
     views_->keyPad.setKeyAction(runKey);

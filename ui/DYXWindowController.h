@@ -109,7 +109,7 @@ class DYXWindowController final : public DYXCalculator,
     // Shows the help with its selected page loaded afresh, or hides it.
     void takeToggleHelpWindowFrom();
     // Shows what the help tells about the command of a key.
-    void showHelpFor(std::u16string_view command);
+    void showHelpFor(const Comand& command);
     // Steps above the normal size of the text; they count on beyond the range of the view.
     [[nodiscard]] std::int32_t helpViewTextSize() const { return helpViewTextSize_; }
     void setHelpViewTextToSize(std::int32_t size);

@@ -19,6 +19,9 @@ KeyPad::KeyPad(Platform& platform)
                                        .group = row.group,
                                        .keyClass = row.keyClass},
                                       platform));
+        if (row.keyClass == KeyClass::lock) {
+            lockButton_ = panel_.keys.back().button.get();
+        }
     }
     std::size_t place = 0;
     for (const DrawerKeyRow& row : drawerKeyRows()) {
@@ -41,21 +44,13 @@ KeyPad::KeyPad(Platform& platform)
     showHexDigits(false);
 }
 
-NSButton& KeyPad::button(std::u16string_view command) const {
+CommandButton& KeyPad::button(const Comand& command) const {
     const auto rows = keyPadRows();
-    const auto row = std::find_if(rows.begin(), rows.end(), [command](const KeyRow& candidate) {
+    const auto row = std::find_if(rows.begin(), rows.end(), [&command](const KeyRow& candidate) {
         return candidate.command == command;
     });
     assert(row != rows.end());
     return *keys().at(static_cast<std::size_t>(row - rows.begin())).button;
-}
-
-void KeyPad::setKeyAction(const std::function<void(NSButton&)>& action) {
-    panel_.setKeyAction(action);
-    lockButton().setAction({});
-    for (NSButton* const button : drawerButtons_) {
-        button->setAction({});
-    }
 }
 
 bool KeyPad::showHexDigits(bool show) {
@@ -66,8 +61,8 @@ bool KeyPad::showHexDigits(bool show) {
     const auto rows = hexKeyRows();
     for (std::size_t index = 0; index < hexButtons_.size(); ++index) {
         const HexKeyRow& row = rows[index];
-        NSButton& button = *hexButtons_.at(index);
-        button.setAlternateTitle(std::u16string(show ? row.hexCommand : row.command));
+        CommandButton& button = *hexButtons_.at(index);
+        button.setCommand(show ? row.hexCommand : row.command);
         button.setTitle(std::u16string(show ? row.hexTitle : u""));
         button.setImage(std::u16string(show ? u"" : row.image));
         button.setAlternateImage(std::u16string(show ? u"" : row.alternateImage));

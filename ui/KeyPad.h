@@ -23,16 +23,17 @@ class KeyPad {
     [[nodiscard]] const std::shared_ptr<DYXStatusLineView>& view() const { return panel_.view; }
     [[nodiscard]] const std::vector<Key>& keys() const { return panel_.keys; }
     // The button that stood for the command when the key pad was made.
-    [[nodiscard]] NSButton& button(std::u16string_view command) const;
+    [[nodiscard]] CommandButton& button(const Comand& command) const;
     // The six keys of the letters A to F.
-    [[nodiscard]] const std::array<NSButton*, 6>& hexButtons() const { return hexButtons_; }
-    [[nodiscard]] NSButton& lockButton() const { return button(u"lock"); }
+    [[nodiscard]] const std::array<CommandButton*, 6>& hexButtons() const { return hexButtons_; }
+    [[nodiscard]] NSButton& lockButton() const { return *lockButton_; }
     [[nodiscard]] NSButton& drawerButton(DrawerName drawer) const {
         return *drawerButtons_.at(static_cast<std::size_t>(drawer));
     }
 
-    // What a click on a command key does; the lock and the drawers have actions of their own.
-    void setKeyAction(const std::function<void(NSButton&)>& action);
+    // What a click on a key with a command does; the lock and the drawers have actions of their
+    // own.
+    void setKeyAction(const KeyAction& action) const { panel_.setKeyAction(action); }
 
     // Gives the six keys their letters, or their exponents. Whether that changes anything.
     bool showHexDigits(bool show);
@@ -40,7 +41,8 @@ class KeyPad {
   private:
     const BundlePort& titles_;
     Panel panel_;
-    std::array<NSButton*, 6> hexButtons_{};
+    NSButton* lockButton_ = nullptr;
+    std::array<CommandButton*, 6> hexButtons_{};
     std::array<NSButton*, kDrawerNames.size()> drawerButtons_{};
     bool showsHexDigits_ = true;
 };

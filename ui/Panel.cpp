@@ -88,15 +88,23 @@ void addKey(Panel& panel, const KeyDescription& description, std::uint32_t mask,
 }
 
 std::u16string constantHint(const ConstantKeyRow& row, const BundlePort& titles) {
-    const ConstantRow* const constant = findConstant(commandFromString(row.command).action);
-    std::u16string hint =
-        titles.localizedString(row.name) + u" = " + printedNumber(constant->value);
+    const ConstantRow* const constant = findConstant(row.command.action);
+    std::u16string hint = titles.localizedString(row.name);
+    if (constant != nullptr) {
+        hint += u" = " + printedNumber(constant->value);
+    }
     return row.unit.empty() ? hint : hint + u' ' + std::u16string(row.unit);
 }
 
-void setActions(const std::vector<Key>& keys, const std::function<void(NSButton&)>& action) {
+void setActions(const std::vector<Key>& keys, const KeyAction& action) {
     for (const Key& key : keys) {
-        key.button->setAction(action);
+        const bool runsCommand =
+            key.keyClass == KeyClass::key || key.keyClass == KeyClass::modifier;
+        if (runsCommand) {
+            key.button->setAction([action, &button = *key.button](NSButton& /*sender*/) {
+                action(button.command());
+            });
+        }
         key.button->setKeyEquivalent(u"");
     }
 }
@@ -119,7 +127,7 @@ std::u16string localizedTitle(std::u16string_view title, const BundlePort& title
 Key makeKey(const KeyDescription& description, Platform& platform) {
     const std::u16string& title = description.title;
     const NSFont font{.name = u"Lucida Grande", .size = titleSize(title, description.group)};
-    Key key{.button = {}, .group = description.group};
+    Key key{.button = {}, .group = description.group, .keyClass = description.keyClass};
     if (description.keyClass == KeyClass::key) {
         key.button = std::make_shared<DYXButton>(description.frame, title, font, platform);
     } else {
@@ -128,17 +136,15 @@ Key makeKey(const KeyDescription& description, Platform& platform) {
         key.button->setFont(font);
         key.button->setToggles(description.keyClass == KeyClass::lock);
     }
-    key.button->setAlternateTitle(std::u16string(description.command));
+    key.button->setCommand(description.command);
     key.button->setToolTip(description.hint);
     key.button->setAccessibilityLabel(simpleTexHint(description.hint).string);
     return key;
 }
 
-void Panel::setKeyAction(const std::function<void(NSButton&)>& action) const {
-    setActions(keys, action);
-}
+void Panel::setKeyAction(const KeyAction& action) const { setActions(keys, action); }
 
-void ConversionPanel::setKeyAction(const std::function<void(NSButton&)>& action) const {
+void ConversionPanel::setKeyAction(const KeyAction& action) const {
     for (const std::vector<Key>& page : pages) {
         setActions(page, action);
     }
@@ -165,13 +171,12 @@ Panel makeMemoryPanel(Platform& platform) {
     const std::u16string registerName = platform.localizedString(u"memory register");
     for (int number = 0; number < kRegisters; ++number) {
         const std::u16string digits = asciiText(std::to_string(number));
-        const std::u16string command = (number < 10 ? u"memoM00" : u"memoM0") + digits;
         std::u16string hint = registerName;
         hint.append(u" ").append(digits);
         addKey(panel,
                {.frame = sideKeyFrame(kFirstRegisterRow + number / kRegisterColumns,
                                       kMargin + number % kRegisterColumns * kPitch, kKeyWidth),
-                .command = command,
+                .command = registerCommand(static_cast<unsigned>(number)),
                 .title = u"M_{" + digits + u"}",
                 .hint = std::move(hint),
                 .group = KeyGroup::digit},
@@ -230,12 +235,10 @@ std::vector<Key> unitKeys(const UnitPage& page, Platform& platform) {
     std::vector<Key> keys;
     for (const UnitKeyRow& unit : page.units) {
         const int number = static_cast<int>(keys.size());
-        const std::u16string command =
-            u"conv" + std::u16string(page.group) + std::u16string(unit.action);
         keys.push_back(makeKey({.frame = wideKeyFrame(number % kColumns, 1, kPageMargin,
                                                       kPageHeight - kPageMargin - kKeyHeight -
                                                           rowOffset(number / kColumns)),
-                                .command = command,
+                                .command = page.commandOf(unit),
                                 .title = std::u16string(unit.title),
                                 .hint = platform.localizedString(unit.name)},
                                platform));

@@ -19,13 +19,14 @@ inline constexpr double kKeyHeight = 21.0;
 inline constexpr double kKeyGap = 3.0;
 
 struct Key {
-    std::shared_ptr<NSButton> button;
+    std::shared_ptr<CommandButton> button;
     KeyGroup group;
+    KeyClass keyClass;
 };
 
 struct KeyDescription {
     NSRect frame;
-    std::u16string_view command;
+    Comand command;
     std::u16string title;  // simple TeX
     std::u16string hint;   // simple TeX
     KeyGroup group = KeyGroup::function;
@@ -42,12 +43,15 @@ Key makeKey(const KeyDescription& description, Platform& platform);
 void addStatusField(NSView& view, DYXStatusLineTracker& tracker, const NSRect& frame,
                     std::uint32_t autoresizingMask);
 
+// What a click on a key does with its command.
+using KeyAction = std::function<void(const Comand&)>;
+
 // A view with its keys and a status field.
 struct Panel {
     std::shared_ptr<DYXStatusLineView> view;
     std::vector<Key> keys;
 
-    void setKeyAction(const std::function<void(NSButton&)>& action) const;
+    void setKeyAction(const KeyAction& action) const;
 };
 
 Panel makeMemoryPanel(Platform& platform);
@@ -60,7 +64,7 @@ struct ConversionPanel {
     std::shared_ptr<DYXTabView> tabView;
     std::vector<std::vector<Key>> pages;
 
-    void setKeyAction(const std::function<void(NSButton&)>& action) const;
+    void setKeyAction(const KeyAction& action) const;
 };
 
 ConversionPanel makeConversionPanel(Platform& platform, const HotKeys& hotKeys);

@@ -9,7 +9,7 @@ namespace talvex {
 namespace {
 
 struct ModifierKey {
-    std::u16string_view command;
+    Comand command;
     bool (*isOn)(const DYXCalculator&);
 };
 
@@ -19,14 +19,15 @@ bool isArmed(const DYXCalculator& calculator) {
 }
 
 constexpr auto kModifierKeys = std::to_array<ModifierKey>({
-    {u"modiARC ", [](const DYXCalculator& calculator) { return calculator.inverse; }},
-    {u"modiHYP ", [](const DYXCalculator& calculator) { return calculator.hyperbolic; }},
-    {u"memoRCL ", [](const DYXCalculator& calculator) { return calculator.recall(); }},
-    {u"memoSTO ", isArmed<1>},
-    {u"memoSTO+", isArmed<2>},
-    {u"memoSTO-", isArmed<3>},
-    {u"memoSTO*", isArmed<4>},
-    {u"memoSTO/", isArmed<5>},
+    {command("modi", "ARC "), [](const DYXCalculator& calculator) { return calculator.inverse; }},
+    {command("modi", "HYP "),
+     [](const DYXCalculator& calculator) { return calculator.hyperbolic; }},
+    {command("memo", "RCL "), [](const DYXCalculator& calculator) { return calculator.recall(); }},
+    {command("memo", "STO "), isArmed<1>},
+    {command("memo", "STO+"), isArmed<2>},
+    {command("memo", "STO-"), isArmed<3>},
+    {command("memo", "STO*"), isArmed<4>},
+    {command("memo", "STO/"), isArmed<5>},
 });
 
 }  // namespace
@@ -74,9 +75,8 @@ void DYXWindowController::updateLabels() {
 void DYXWindowController::findModifierKeys() {
     for (const Key& key : views_->allKeys()) {
         const auto* const row = std::find_if(
-            kModifierKeys.begin(), kModifierKeys.end(), [&key](const ModifierKey& each) {
-                return each.command == key.button->alternateTitle();
-            });
+            kModifierKeys.begin(), kModifierKeys.end(),
+            [&key](const ModifierKey& each) { return each.command == key.button->command(); });
         if (row != kModifierKeys.end()) {
             modifierButtons_.push_back({.button = key.button.get(), .isOn = row->isOn});
         }

@@ -23,20 +23,20 @@ constexpr auto kPages = std::to_array<HelpPage>({
 });
 
 struct CategoryPage {
-    std::u16string_view category;
+    std::uint32_t category;
     std::u16string_view title;
 };
 
 constexpr auto kPagesOfCategories = std::to_array<CategoryPage>({
-    {u"unit", u"Functions"},
-    {u"bina", u"Functions"},
-    {u"null", u"Functions"},
-    {u"modi", u"Functions"},
-    {u"cons", u"Constants"},
-    {u"conv", u"Units"},
-    {u"memo", u"Memory"},
-    {u"stac", u"Stack"},
-    {u"data", u"Numbers"},
+    {fourCC("unit"), u"Functions"},
+    {fourCC("bina"), u"Functions"},
+    {fourCC("null"), u"Functions"},
+    {fourCC("modi"), u"Functions"},
+    {fourCC("cons"), u"Constants"},
+    {fourCC("conv"), u"Units"},
+    {fourCC("memo"), u"Memory"},
+    {fourCC("stac"), u"Stack"},
+    {fourCC("data"), u"Numbers"},
 });
 
 constexpr std::string_view kUnreserved =
@@ -57,18 +57,18 @@ void appendEscaped(std::u16string& text, unsigned char byte) {
 
 std::span<const HelpPage> helpPages() { return kPages; }
 
-std::u16string helpPlaceOfCommand(std::u16string_view command) {
+std::u16string helpPlaceOfCommand(const Comand& command) {
     // What is told of one register or digit holds for all.
-    if (command.starts_with(u"memoM")) {
+    if (command.category == fourCC("memo") && characterOf(command.action, 0) == 'M') {
         return u"Memory#memoM000";
     }
-    if (command.starts_with(u"dataN")) {
+    if (command.category == fourCC("data") && characterOf(command.action, 0) == 'N') {
         return u"Numbers";
     }
     for (const CategoryPage& row : kPagesOfCategories) {
-        if (command.starts_with(row.category)) {
+        if (command.category == row.category) {
             std::u16string place = std::u16string(row.title) + u'#';
-            for (const char16_t unit : command) {
+            for (const char16_t unit : stringFromCommand(command)) {
                 appendEscaped(place, static_cast<unsigned char>(unit));
             }
             return place;

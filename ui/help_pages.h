@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/Comand.h"
+
 namespace talvex {
 
 // A page of the help: the file "HelpStack.html" for the title "Stack". The tag stands for the page
@@ -16,7 +18,7 @@ struct HelpPage {
 [[nodiscard]] std::span<const HelpPage> helpPages();
 
 // The page and the place in it that tell about a command, as "Functions#unitGSIN".
-[[nodiscard]] std::u16string helpPlaceOfCommand(std::u16string_view command);
+[[nodiscard]] std::u16string helpPlaceOfCommand(const Comand& command);
 
 // The URL of a file, given by its path in UTF-8.
 [[nodiscard]] std::u16string fileURL(std::string_view path);

@@ -48,7 +48,7 @@ void DYXWindowController::takeToggleHelpWindowFrom() {
     window.makeKeyAndOrderFront();
 }
 
-void DYXWindowController::showHelpFor(std::u16string_view command) {
+void DYXWindowController::showHelpFor(const Comand& command) {
     const std::u16string place = helpPlaceOfCommand(command);
     const std::u16string title = place.substr(0, place.find(u'#'));
     for (const HelpPage& page : helpPages()) {

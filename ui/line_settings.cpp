@@ -100,7 +100,7 @@ void DYXWindowController::fixDecimalSeparator() {
     for (DYXOutputDisplay* line : lines()) {
         line->setDecimalSeparator(separator);
     }
-    NSButton& decimalButton = views_->keyPad.button(u"data.   ");
+    NSButton& decimalButton = views_->keyPad.button(command("data", ".   "));
     const bool hasImage = separator == u'.' || separator == u',';
     decimalButton.setTitle(hasImage ? u"" : std::u16string(1, separator));
     decimalButton.setImage(separator == u'.'   ? u"pointSmall.tiff"
@@ -123,8 +123,8 @@ void DYXWindowController::applicationWillBecomeActive() {
 
 void DYXWindowController::takeHPStylePowerAndLogsFrom(std::optional<bool> useHPStyle) {
     useHPStylePowerAndLogs = useHPStyle.value_or(useHPStylePowerAndLogs);
-    NSButton& powerButton = views_->keyPad.button(u"bina^   ");
-    NSButton& logbaseButton = views_->keyPad.button(u"bina~   ");
+    NSButton& powerButton = views_->keyPad.button(command("bina", "^   "));
+    NSButton& logbaseButton = views_->keyPad.button(command("bina", "~   "));
     powerButton.setImage(useHPStylePowerAndLogs ? u"powyxSmall.tiff" : u"powxySmall.tiff");
     powerButton.setImagePosition(NSImagePosition::imageOnly);
     logbaseButton.setImage(useHPStylePowerAndLogs ? u"lnyxSmall.tiff" : u"lnxySmall.tiff");

@@ -6,7 +6,6 @@
 #include "display/ascii_text.h"
 #include "numeric/DYXnan.h"
 #include "numeric/decimal_text.h"
-#include "platform/NSButton.h"
 #include "ui/DYXWindowController.h"
 #include "ui/simple_tex.h"
 
@@ -38,11 +37,11 @@ NSAttributedString plainLine(const std::u16string& text) {
 }  // namespace
 
 std::optional<NSAttributedString> DYXWindowController::statusLineForView(const NSView& view) const {
-    const auto* const button = dynamic_cast<const NSButton*>(&view);
+    const auto* const button = dynamic_cast<const CommandButton*>(&view);
     if (button == nullptr) {
         return std::nullopt;
     }
-    const Comand command = commandFromString(button->alternateTitle());
+    const Comand& command = button->command();
     const auto character = [&command](unsigned place) {
         return characterOf(command.action, place);
     };

@@ -12,9 +12,9 @@ namespace talvex {
 
 // Everything about a key of the key pad. Rows and columns count from the top left.
 struct KeyRow {
-    std::u16string_view command;  // in string form
-    std::u16string_view title;    // simple TeX; empty where an image stands in its place
-    std::u16string_view hint;     // what the key does, in words
+    Comand command;             // of the lock none
+    std::u16string_view title;  // simple TeX; empty where an image stands in its place
+    std::u16string_view hint;   // what the key does, in words
     KeyGroup group;
     std::uint8_t column;
     std::uint8_t row;
@@ -39,10 +39,10 @@ struct DrawerKeyRow {
 
 // What the six keys on the top right do, which carry the letters of HEX input or exponents.
 struct HexKeyRow {
-    std::u16string_view hexCommand;
+    Comand hexCommand;
     std::u16string_view hexTitle;
     std::u16string_view hexHint;
-    std::u16string_view command;
+    Comand command;
     std::u16string_view hint;
     std::u16string_view image;
     std::u16string_view alternateImage;

@@ -6,11 +6,11 @@
 
 #include "ui/DYXButton.h"
 
-// Every key of the drawers, one row each. Titles and hints are simple TeX, commands in string form.
+// Every key of the drawers, one row each. Titles and hints are simple TeX.
 namespace talvex {
 
 struct ConstantKeyRow {
-    std::u16string_view command;
+    Comand command;
     std::u16string_view title;
     std::u16string_view name;
     std::u16string_view unit;  // empty for pure numbers
@@ -20,7 +20,7 @@ struct ConstantKeyRow {
 [[nodiscard]] std::span<const ConstantKeyRow> constantKeyRows();
 
 struct FunctionKeyRow {
-    std::u16string_view command;
+    Comand command;
     std::u16string_view title;
     std::u16string_view hint;
     std::uint8_t row;
@@ -32,7 +32,7 @@ struct FunctionKeyRow {
 [[nodiscard]] std::span<const FunctionKeyRow> functionKeyRows();
 
 struct MemoryKeyRow {
-    std::u16string_view command;
+    Comand command;
     std::u16string_view title;
     std::u16string_view hint;
     KeyGroup group;
@@ -46,7 +46,7 @@ struct MemoryKeyRow {
 [[nodiscard]] std::span<const MemoryKeyRow> memoryKeyRows();
 
 struct UnitKeyRow {
-    std::u16string_view action;  // four characters
+    std::uint32_t action;
     std::u16string_view title;
     std::u16string_view name;
 };
@@ -54,8 +54,12 @@ struct UnitKeyRow {
 // One page of the conversion drawer.
 struct UnitPage {
     std::u16string_view label;
-    std::u16string_view group;  // four characters
+    std::uint32_t group;
     std::span<const UnitKeyRow> units;
+
+    [[nodiscard]] constexpr Comand commandOf(const UnitKeyRow& unit) const {
+        return {.category = fourCC("conv"), .action = unit.action, .group = group};
+    }
 };
 
 [[nodiscard]] std::span<const UnitPage> unitPages();
