@@ -29,8 +29,8 @@ double result(FuzzInput& input, const DYXMathContext& context) {
 void run(FuzzInput& input) {
     const auto modifiers = input.take<std::uint8_t>();
     DYXMathContext context;
-    context.angleMode = input.take<std::int32_t>();
-    context.angleMode = modifiers % 2 == 0 ? context.angleMode : context.angleMode % 5;
+    const auto angleMode = input.take<std::int32_t>();
+    context.angleMode = AngleMode{modifiers % 2 == 0 ? angleMode : angleMode % 5};
     context.inverse = (modifiers & 2U) != 0;
     context.hyperbolic = (modifiers & 4U) != 0;
     context.useHPStylePowerAndLogs = (modifiers & 8U) != 0;

@@ -1,8 +1,6 @@
 #include "numeric/trigonometry.h"
 
-#include <array>
 #include <cmath>
-#include <cstddef>
 
 #include "numeric/DYXnan.h"
 #include "numeric/checked_elementary.h"
@@ -12,16 +10,6 @@ namespace talvex {
 namespace {
 
 using Context = DYXMathContext;
-
-// The angle of a half turn and of a quarter turn, by angle mode.
-constexpr std::array MultpilePi{3.141592653589793, 180.0, 200.0, 12.0, 0.5};
-constexpr std::array MultpilePi2{1.5707963267948966, 90.0, 100.0, 6.0, 0.25};
-static_assert(MultpilePi.size() == MultpilePi2.size());
-
-std::size_t modeIndex(std::int32_t angleMode) {
-    const auto index = static_cast<std::uint32_t>(angleMode);
-    return index < MultpilePi.size() ? index : 0;
-}
 
 bool isOddWhole(double whole) { return std::fabs(std::fmod(whole, 2.0)) == 1.0; }
 
@@ -59,13 +47,13 @@ double plainSech(const Context&, double x) { return sech(x); }
 
 }  // namespace
 
-bool DYXMultiplePi(std::int32_t angleMode, double x) {
-    const double halfTurn = MultpilePi.at(modeIndex(angleMode));
+bool DYXMultiplePi(AngleMode angleMode, double x) {
+    const double halfTurn = angleUnitOf(angleMode).halfTurn;
     return std::round(x / halfTurn) * halfTurn == x;
 }
 
-bool DYXOddMultiplePi2(std::int32_t angleMode, double x) {
-    const double quarterTurn = MultpilePi2.at(modeIndex(angleMode));
+bool DYXOddMultiplePi2(AngleMode angleMode, double x) {
+    const double quarterTurn = angleUnitOf(angleMode).quarterTurn;
     const double quarters = std::round(x / quarterTurn);
     // A quotient beyond 32 bits doesn't count as odd: so large a multiple is a half turn, no pole.
     return quarters * quarterTurn == x && std::fabs(quarters) <= 2147483647.0 &&

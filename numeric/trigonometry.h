@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include "numeric/DYXMathContext.h"
 
 // Trigonometry in the context's angle mode, exact at the special angles, and the six generic
@@ -10,10 +8,9 @@
 namespace talvex {
 
 // Whether x is exactly a multiple of a half turn, or exactly an odd multiple of a quarter turn, in
-// the arithmetic of doubles; there is no tolerance. Infinities are multiples and not odd. A mode
-// outside 0 to 4 counts as RAD.
-bool DYXMultiplePi(std::int32_t angleMode, double x);
-bool DYXOddMultiplePi2(std::int32_t angleMode, double x);
+// the arithmetic of doubles; there is no tolerance. Infinities are multiples and not odd.
+bool DYXMultiplePi(AngleMode angleMode, double x);
+bool DYXOddMultiplePi2(AngleMode angleMode, double x);
 
 double DYXsin(const DYXMathContext& context, double x);
 double DYXcos(const DYXMathContext& context, double x);

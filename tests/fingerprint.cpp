@@ -34,7 +34,7 @@ class Fingerprint {
 
 DYXMathContext contextOf(int round) {
     DYXMathContext context;
-    context.angleMode = round % 5;
+    context.angleMode = AngleMode{round % 5};
     context.inverse = round / 5 % 2 == 1;
     context.hyperbolic = round / 10 % 2 == 1;
     return context;

@@ -87,7 +87,7 @@ TEST_F(Keyboard, RecallsWithEveryDigitAfterAClickOnRecall) {
 }
 
 TEST_F(Keyboard, KeepsAClickedInverseForTheNextKeysAndNotForAClick) {
-    controller.angleMode = 1;
+    controller.angleMode = AngleMode::deg;
     setX(1);
     click(u"modiARC ");
     press(u"s");

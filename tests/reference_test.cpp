@@ -43,7 +43,7 @@ TEST(ReferenceValues, AreMetWithinTheToleranceOfEachFunction) {
         const auto number = [](const std::string& text) { return std::strtod(text.c_str(), {}); };
         const Comand command = commandFromString(asciiText(name));
         DYXMathContext context;
-        context.angleMode = std::atoi(angleMode.c_str());
+        context.angleMode = AngleMode{std::atoi(angleMode.c_str())};
         const double result =
             command.category == fourCC("unit")
                 ? (*findFunction(unitaries(), command.action))(context, number(x))

@@ -20,7 +20,7 @@ using Checked = double (*)(const DYXMathContext&, double);
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-DYXMathContext contextOf(std::int32_t angleMode, bool inverse = false, bool hyperbolic = false) {
+DYXMathContext contextOf(AngleMode angleMode, bool inverse = false, bool hyperbolic = false) {
     DYXMathContext context;
     context.angleMode = angleMode;
     context.inverse = inverse;
@@ -30,13 +30,13 @@ DYXMathContext contextOf(std::int32_t angleMode, bool inverse = false, bool hype
 
 constexpr struct AngleRow {
     const char* title;
-    std::int32_t mode;
+    AngleMode mode;
     double quarterTurn;
-} kAngles[]{{"RAD", 0, 1.5707963267948966},
-            {"DEG", 1, 90},
-            {"GRD", 2, 100},
-            {"HRS", 3, 6},
-            {"REV", 4, 0.25}};
+} kAngles[]{{"RAD", AngleMode::rad, 1.5707963267948966},
+            {"DEG", AngleMode::deg, 90},
+            {"GRD", AngleMode::grd, 100},
+            {"HRS", AngleMode::hrs, 6},
+            {"REV", AngleMode::rev, 0.25}};
 
 constexpr Checked kForward[]{DYXsin, DYXcos, DYXtan, DYXcsc, DYXsec, DYXcot};
 // What sin, cos, tan, csc, sec, cot are at an angle; of the sign of a zero only +0 will do.
@@ -73,10 +73,10 @@ TEST(ForwardFunctions, AreExactAtMultiplesOfAQuarterTurn) {
             EXPECT_TRUE(isSame(DYXcot(context, x), undefined)) << x;
         }
     }
-    EXPECT_TRUE(DYXOddMultiplePi2(1, 90 * 2147483647.0));
-    EXPECT_TRUE(DYXOddMultiplePi2(1, -90 * 2147483647.0));
-    EXPECT_FALSE(DYXOddMultiplePi2(1, 90 * 2147483649.0));
-    EXPECT_FALSE(DYXOddMultiplePi2(1, -90 * 2147483649.0));
+    EXPECT_TRUE(DYXOddMultiplePi2(AngleMode::deg, 90 * 2147483647.0));
+    EXPECT_TRUE(DYXOddMultiplePi2(AngleMode::deg, -90 * 2147483647.0));
+    EXPECT_FALSE(DYXOddMultiplePi2(AngleMode::deg, 90 * 2147483649.0));
+    EXPECT_FALSE(DYXOddMultiplePi2(AngleMode::deg, -90 * 2147483649.0));
 }
 
 TEST(GenericFunctions, ChooseByTheModifiers) {
@@ -94,8 +94,9 @@ TEST(GenericFunctions, ChooseByTheModifiers) {
     for (const auto& family : families) {
         for (std::size_t choice = 0; choice < 4; ++choice) {
             for (const double x : {-3.0, 0.5, 3.0}) {
-                const double result = family[0](contextOf(1, choice % 2 == 1, choice / 2 == 1), x);
-                EXPECT_TRUE(isSame(result, family[choice + 1](contextOf(1), x))) << choice;
+                const auto context = contextOf(AngleMode::deg, choice % 2 == 1, choice / 2 == 1);
+                const double expected = family[choice + 1](contextOf(AngleMode::deg), x);
+                EXPECT_TRUE(isSame(family[0](context, x), expected)) << choice;
             }
         }
     }
@@ -115,7 +116,8 @@ TEST(FunctionTables, HandErrorsOnBitForBit) {
     const double error = DYXnan('L');
     for (const UnaryRow& row : unitaries()) {
         for (int state = 0; state < 20 && handsErrorsOn(row.action); ++state) {
-            const auto context = contextOf(state / 4, state % 2 == 1, state / 2 % 2 == 1);
+            const auto context =
+                contextOf(AngleMode{state / 4}, state % 2 == 1, state / 2 % 2 == 1);
             EXPECT_TRUE(isSame(row(context, error), error)) << row.action;
         }
     }

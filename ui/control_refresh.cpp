@@ -41,7 +41,7 @@ void DYXWindowController::updateControls() {
 
 void DYXWindowController::updateAngle() {
     for (const NSMenuItem& item : views_->angleModePopUp->menu().items) {
-        if (item.tag == angleMode) {
+        if (AngleMode{item.tag} == angleMode) {
             views_->angleModePopUp->setTitle(item.title);
         }
     }

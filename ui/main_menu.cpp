@@ -279,8 +279,9 @@ NSMenu inputModeMenu(Controller& controller) {
 }
 
 NSMenu angleModeMenu(Controller& controller) {
-    return choiceMenu(controller, kAngles, &Controller::takeAngleModeFrom,
-                      [](const Controller& now) -> std::int64_t { return now.angleMode; });
+    return choiceMenu(
+        controller, kAngles, &Controller::takeAngleModeFrom,
+        [](const Controller& now) { return static_cast<std::int64_t>(now.angleMode); });
 }
 
 NSMenu mainMenu(Controller& controller) {

@@ -29,7 +29,7 @@ SavedState DYXWindowController::presentState() const {
     std::copy_n(mem().begin(), state.mem.size(), state.mem.begin());
     state.lastX = stack().lastX;
     state.inputState = static_cast<std::int32_t>(inputState());
-    state.angleMode = angleMode;
+    state.angleMode = static_cast<std::int32_t>(angleMode);
     state.useHPStylePowerAndLogs = useHPStylePowerAndLogs;
 
     const DYXInputDisplay& line = xDisplay();
@@ -73,7 +73,7 @@ void DYXWindowController::applyState(const SavedState& state) {
     line.setUnlockInputAndOutputModes(state.unlockInputAndOutputModes);
     line.setOutputMode(state.outputDisplayMode);
     line.setInputMode(state.inputDisplayMode);
-    angleMode = state.angleMode;
+    angleMode = AngleMode{state.angleMode};
     line.setDigits(static_cast<std::uint32_t>(state.digits));
     settings_.animateWindow = state.animateWindow;
     useHPStylePowerAndLogs = state.useHPStylePowerAndLogs;

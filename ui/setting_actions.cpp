@@ -28,12 +28,12 @@ bool turnedOver(const NSMenuItem& item) { return item.state == 0; }
 }  // namespace
 
 void DYXWindowController::takeAngleModeFrom(const NSMenuItem& item) {
-    angleMode = item.tag;
+    angleMode = AngleMode{item.tag};
     updateDisplay();
 }
 
 void DYXWindowController::takeAngleModeFrom(const NSButton& /*sender*/) {
-    angleMode = next(angleMode, kAngleModes);
+    angleMode = AngleMode{next(static_cast<std::int32_t>(angleMode), kAngleModes)};
     updateDisplay();
 }
 
