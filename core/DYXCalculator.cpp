@@ -71,16 +71,6 @@ DYXCalculator::DYXCalculator(Platform& platform, const DisplayFields& fields)
     }
 }
 
-DisplayFields DYXCalculator::plainFields() {
-    const auto slot = [] { return std::make_shared<NSTextField>(); };
-    return {.mantissa = slot(),
-            .mantissaSign = slot(),
-            .exponent = slot(),
-            .exponentSign = slot(),
-            .label = slot(),
-            .status = slot()};
-}
-
 bool DYXCalculator::doCommand(const Comand& command) {
     struct Row {
         std::uint32_t category;

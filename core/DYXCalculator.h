@@ -42,9 +42,6 @@ class DYXCalculator : public DYXMathContext {
     DYXCalculator& operator=(const DYXCalculator&) = delete;
     virtual ~DYXCalculator() = default;
 
-    // Slots that belong to no window.
-    static DisplayFields plainFields();
-
     // Runs a command: its handler, the rounding of X in input mode MON, and the display; then the
     // command becomes `lastCommand`. Answers whether a handler knows it; an unknown one changes no
     // register and no state.

@@ -8,21 +8,9 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/NSTextField.h"
+#include "display/DisplayFields.h"
 
 namespace talvex {
-
-// A text slot of a line. A slot may be absent: writing to it then does nothing.
-using TextSlot = std::shared_ptr<NSTextField>;
-
-struct DisplayFields {
-    TextSlot mantissa = nullptr;
-    TextSlot mantissaSign = nullptr;
-    TextSlot exponent = nullptr;
-    TextSlot exponentSign = nullptr;
-    TextSlot label = nullptr;
-    TextSlot status = nullptr;
-};
 
 // One line of the number display. A line owns no number: it is handed a double by `setOutputTo`
 // and turns it into text in its slots, by its settings alone. Changing a setting changes nothing

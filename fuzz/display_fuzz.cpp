@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <map>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -22,17 +21,12 @@ constexpr std::size_t kLongestText = 4500;
 constexpr std::u16string_view kOld = u"old";
 
 DisplayFields oldFields() {
-    const auto slot = [] {
-        auto field = std::make_shared<NSTextField>();
-        field->setStringValue(std::u16string(kOld));
-        return field;
-    };
-    return {.mantissa = slot(),
-            .mantissaSign = slot(),
-            .exponent = slot(),
-            .exponentSign = slot(),
-            .label = slot(),
-            .status = slot()};
+    DisplayFields fields = plainFields();
+    for (const TextSlot& slot : {fields.mantissa, fields.mantissaSign, fields.exponent,
+                                 fields.exponentSign, fields.label, fields.status}) {
+        slot->setStringValue(std::u16string(kOld));
+    }
+    return fields;
 }
 
 // The digits and the point of a text, without groups; what else counts stands in `kept`.

@@ -6,7 +6,6 @@
 #include <string>
 #include <utility>
 
-#include "core/DYXCalculator.h"
 #include "display/DYXOutputDisplay.h"
 #include "display/ZUMutableStringExtensions.h"
 #include "display_format_tables.h"
@@ -42,7 +41,7 @@ Shown shownIn(std::int32_t mode, const Row& row) {
 }
 
 TEST(DisplayFormat, FillsEverySlot) {
-    DYXOutputDisplay line(DYXCalculator::plainFields());
+    DYXOutputDisplay line(plainFields());
     for (const auto& [mode, style, rows] : kFormatTables) {
         line.setOutputMode(mode);
         line.setDecimalSeparator(style.point);
@@ -69,7 +68,7 @@ TEST(DisplayFormat, FillsEverySlot) {
 }
 
 TEST(DisplayFormat, GroupsBySizeButScientificAlwaysByThree) {
-    DYXOutputDisplay line(DYXCalculator::plainFields());
+    DYXOutputDisplay line(plainFields());
     line.setGroupingSeparator(u"_");
     const std::pair<std::uint32_t, Text> rows[]{{0, u"12345.6789"},
                                                 {1, u"1_2_3_4_5.6_7_8_9"},
@@ -85,7 +84,7 @@ TEST(DisplayFormat, GroupsBySizeButScientificAlwaysByThree) {
 }
 
 TEST(DisplayFormat, ShowsErrorsAndInfinitiesAsWordsInAnyMode) {
-    DYXOutputDisplay line(DYXCalculator::plainFields());
+    DYXOutputDisplay line(plainFields());
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     for (std::int32_t number = -1; number <= mode::count; ++number) {
         SCOPED_TRACE(number);
