@@ -29,23 +29,16 @@ std::unique_ptr<DYXOutputDisplay> DYXOutputDisplay::copy() const {
                       .exponentSign = copyOf(fields_.exponentSign),
                       .label = copyOf(fields_.label),
                       .status = nullptr});
-    line->digits_ = digits_;
-    line->maxDigits_ = maxDigits_;
-    line->outputMode_ = outputMode_;
-    line->reduceCarpentryFractions_ = reduceCarpentryFractions_;
+    line->settings_ = {.digits = settings_.digits,
+                       .maxDigits = settings_.maxDigits,
+                       .outputMode = settings_.outputMode,
+                       .reduceCarpentryFractions = settings_.reduceCarpentryFractions};
     return line;
 }
 
 void DYXOutputDisplay::syncToDisplay(const DYXOutputDisplay& line) {
-    digits_ = line.digits_;
-    maxDigits_ = line.maxDigits_;
-    outputMode_ = line.effectiveOutputMode();
-    reduceCarpentryFractions_ = line.reduceCarpentryFractions_;
-    displayIrrationals_ = line.displayIrrationals_;
-    decimalSeparator_ = line.decimalSeparator_;
-    integerGroupingSeparator_ = line.integerGroupingSeparator_;
-    decimalGroupingSeparator_ = line.decimalGroupingSeparator_;
-    groupingDigits_ = line.groupingDigits_;
+    settings_ = line.settings_;
+    settings_.outputMode = line.effectiveOutputMode();
     if (const auto font = line.textFont()) {
         setTextFont(*font);
     }
@@ -74,7 +67,7 @@ const DYXOutputDisplay::ModeRow& DYXOutputDisplay::rowOfMode(std::int32_t mode) 
 void DYXOutputDisplay::format(const ModeRow& row, double number) {
     const bool triesIrrationals =
         row.irrationals == Irrationals::always ||
-        (row.irrationals == Irrationals::ifDisplayed && displayIrrationals_);
+        (row.irrationals == Irrationals::ifDisplayed && settings_.displayIrrationals);
     if ((triesIrrationals && setIrrationalTo(number)) ||
         (row.triesFraction && setIrrationalFractionTo(number))) {
         return;
@@ -115,11 +108,11 @@ std::u16string DYXOutputDisplay::worded(std::u16string_view word) const {
 }
 
 void DYXOutputDisplay::setIntegerGroupingSeparator(std::u16string separator) {
-    integerGroupingSeparator_ = std::move(separator);
+    settings_.integerGroupingSeparator = std::move(separator);
 }
 
 void DYXOutputDisplay::setDecimalGroupingSeparator(std::u16string separator) {
-    decimalGroupingSeparator_ = std::move(separator);
+    settings_.decimalGroupingSeparator = std::move(separator);
 }
 
 void DYXOutputDisplay::setGroupingSeparator(const std::u16string& separator) {
@@ -147,7 +140,7 @@ void DYXOutputDisplay::setFieldsHidden(bool hidden) {
 }
 
 std::u16string DYXOutputDisplay::outputModeTitle() const {
-    return modeTitle(ModeTitle::output, outputMode_);
+    return modeTitle(ModeTitle::output, settings_.outputMode);
 }
 
 std::u16string DYXOutputDisplay::modeTitle(ModeTitle title, std::int32_t number) const {
@@ -162,11 +155,11 @@ NSColor DYXOutputDisplay::errorColor() {
     return {.red = 137.0 / 255.0, .green = 19.0 / 255.0, .blue = 21.0 / 255.0};
 }
 
-void DYXOutputDisplay::setTextColor(const std::optional<NSColor>& color) {
+void DYXOutputDisplay::setTextColor(const NSColor& color) {
     for (const TextSlot* slot : {&fields_.mantissa, &fields_.mantissaSign, &fields_.exponent,
                                  &fields_.exponentSign, &fields_.label}) {
         if (*slot) {
-            (*slot)->setTextColor(color.value_or(NSColor::black()));
+            (*slot)->setTextColor(color);
         }
     }
 }

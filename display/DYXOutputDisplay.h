@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "display/DisplayFields.h"
+#include "display/LineSettings.h"
 
 namespace talvex {
 
@@ -34,29 +35,23 @@ class DYXOutputDisplay {
     // show as words in every mode.
     void setOutputTo(double number);
 
-    // Precision; its meaning depends on the mode, in FIX and SCI the number of decimals.
-    [[nodiscard]] std::uint32_t digits() const { return digits_; }
-    void setDigits(std::uint32_t digits) { digits_ = digits; }
-    // The longest plain text, in characters, before FIX goes over to scientific form.
-    [[nodiscard]] std::uint32_t maxDigits() const { return maxDigits_; }
-    void setMaxDigits(std::uint32_t maxDigits) { maxDigits_ = maxDigits; }
-    [[nodiscard]] std::int32_t outputMode() const { return outputMode_; }
-    void setOutputMode(std::int32_t mode) { outputMode_ = mode; }
-    [[nodiscard]] bool reduceCarpentryFractions() const { return reduceCarpentryFractions_; }
-    void setReduceCarpentryFractions(bool reduce) { reduceCarpentryFractions_ = reduce; }
-    [[nodiscard]] bool displayIrrationals() const { return displayIrrationals_; }
-    void setDisplayIrrationals(bool display) { displayIrrationals_ = display; }
-    [[nodiscard]] char16_t decimalSeparator() const { return decimalSeparator_; }
-    void setDecimalSeparator(char16_t separator) { decimalSeparator_ = separator; }
-    [[nodiscard]] std::uint32_t groupingDigits() const { return groupingDigits_; }
-    void setGroupingDigits(std::uint32_t digits) { groupingDigits_ = digits; }
-    [[nodiscard]] const std::u16string& integerGroupingSeparator() const {
-        return integerGroupingSeparator_;
+    [[nodiscard]] const LineSettings& settings() const { return settings_; }
+    void setSettings(LineSettings settings) { settings_ = std::move(settings); }
+    // The same, one by one.
+    [[nodiscard]] std::uint32_t digits() const { return settings_.digits; }
+    void setDigits(std::uint32_t digits) { settings_.digits = digits; }
+    [[nodiscard]] std::int32_t outputMode() const { return settings_.outputMode; }
+    void setOutputMode(std::int32_t mode) { settings_.outputMode = mode; }
+    [[nodiscard]] bool reduceCarpentryFractions() const {
+        return settings_.reduceCarpentryFractions;
     }
+    void setReduceCarpentryFractions(bool reduce) { settings_.reduceCarpentryFractions = reduce; }
+    [[nodiscard]] bool displayIrrationals() const { return settings_.displayIrrationals; }
+    void setDisplayIrrationals(bool display) { settings_.displayIrrationals = display; }
+    [[nodiscard]] char16_t decimalSeparator() const { return settings_.decimalSeparator; }
+    void setDecimalSeparator(char16_t separator) { settings_.decimalSeparator = separator; }
+    void setGroupingDigits(std::uint32_t digits) { settings_.groupingDigits = digits; }
     void setIntegerGroupingSeparator(std::u16string separator);
-    [[nodiscard]] const std::u16string& decimalGroupingSeparator() const {
-        return decimalGroupingSeparator_;
-    }
     void setDecimalGroupingSeparator(std::u16string separator);
     void setGroupingSeparator(const std::u16string& separator);
 
@@ -66,12 +61,6 @@ class DYXOutputDisplay {
     [[nodiscard]] const TextSlot& exponentSignField() const { return fields_.exponentSign; }
     [[nodiscard]] const TextSlot& labelField() const { return fields_.label; }
     [[nodiscard]] const TextSlot& statusField() const { return fields_.status; }
-    void setMantissaField(TextSlot slot) { fields_.mantissa = std::move(slot); }
-    void setMantissaSignField(TextSlot slot) { fields_.mantissaSign = std::move(slot); }
-    void setExponentField(TextSlot slot) { fields_.exponent = std::move(slot); }
-    void setExponentSignField(TextSlot slot) { fields_.exponentSign = std::move(slot); }
-    void setLabelField(TextSlot slot) { fields_.label = std::move(slot); }
-    void setStatusField(TextSlot slot) { fields_.status = std::move(slot); }
 
     void setLabelString(std::u16string label);
     void setLabelFieldHidden(bool hidden);
@@ -85,26 +74,22 @@ class DYXOutputDisplay {
     void setWording(Wording wording) { wording_ = std::move(wording); }
 
     // The mode that the line formats in.
-    [[nodiscard]] virtual std::int32_t effectiveOutputMode() const { return outputMode_; }
+    [[nodiscard]] virtual std::int32_t effectiveOutputMode() const { return settings_.outputMode; }
     // The title of `outputMode`; "???" outside 0 to 12.
     [[nodiscard]] std::u16string outputModeTitle() const;
 
-    // The status words of a fraction, one pair for all lines.
-    [[nodiscard]] static const std::u16string& exactStr() { return exactStr_; }
-    [[nodiscard]] static const std::u16string& approxStr() { return approxStr_; }
-    static void setExactStr(std::u16string text) { exactStr_ = std::move(text); }
-    static void setApproxStr(std::u16string text) { approxStr_ = std::move(text); }
+    // The status words of a fraction.
+    static constexpr std::u16string_view exactStr() { return u"exact"; }
+    static constexpr std::u16string_view approxStr() { return u"approx"; }
 
     // The colour of a warning.
     static NSColor errorColor();
-    // The colour of all slots but the status; black if none is given.
-    void setTextColor(const std::optional<NSColor>& color);
+    // The colour of all slots but the status.
+    void setTextColor(const NSColor& color);
     // The font of the mantissa slot, if there is one.
     [[nodiscard]] std::optional<NSFont> textFont() const;
     // The font of all slots but label and status.
     void setTextFont(const NSFont& font);
-    // Aligns the mantissa left, and right in HEX, DEC, OCT and BIN.
-    void updateOutputJustification();
 
     // The formatters take a finite number and write every slot but the label.
 
@@ -167,10 +152,12 @@ class DYXOutputDisplay {
         std::u16string sign = {};
         std::u16string exponentSign = {};
         std::u16string exponent = {};
-        std::u16string statusWord = {};
+        std::u16string_view statusWord = {};
         std::u16string statusRest = {};
     };
     void show(LineText text);
+    // Aligns the mantissa left, and right in HEX, DEC, OCT and BIN.
+    void updateOutputJustification();
     // Printed decimals with the line's point and groups.
     [[nodiscard]] std::u16string pointedText(std::u16string text) const;
     // A whole number in the line's groups.
@@ -187,18 +174,7 @@ class DYXOutputDisplay {
     struct GroupedBase;
     void setGroupedBaseTo(double number, const GroupedBase& base);
 
-    static inline std::u16string exactStr_ = u"exact";
-    static inline std::u16string approxStr_ = u"approx";
-
-    std::uint32_t digits_ = 4;
-    std::uint32_t maxDigits_ = 19;
-    std::int32_t outputMode_ = 0;
-    bool reduceCarpentryFractions_ = true;
-    bool displayIrrationals_ = false;
-    char16_t decimalSeparator_ = u'.';
-    std::uint32_t groupingDigits_ = 3;
-    std::u16string integerGroupingSeparator_;
-    std::u16string decimalGroupingSeparator_;
+    LineSettings settings_;
     Wording wording_;
     DisplayFields fields_;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include "display/DYXOutputDisplay.h"
 #include "display/number_text.h"
@@ -14,7 +15,7 @@ constexpr double kFractionLimit = 2147483648.0;
 constexpr double kCarpentryLimit = 4294967296.0;
 constexpr std::uint32_t kFinestMark = 9;  // 2 to the power 9 is 512
 
-std::u16string statusText(double shown, double magnitude) {
+std::u16string_view statusWord(double shown, double magnitude) {
     return areClose(shown, magnitude) ? DYXOutputDisplay::exactStr()
                                       : DYXOutputDisplay::approxStr();
 }
@@ -37,7 +38,7 @@ double reducedMark(double fraction) {
 
 std::u16string DYXOutputDisplay::mixedFractionText(std::u16string whole, double numerator,
                                                    double denominator) const {
-    if (digits_ == 0 || numerator == 0.0) {
+    if (settings_.digits == 0 || numerator == 0.0) {
         return whole;
     }
     const std::u16string fraction = integerText(static_cast<std::int64_t>(numerator)) + u'/' +
@@ -69,7 +70,7 @@ void DYXOutputDisplay::setFractionTo(double number) {
     }
     show({.mantissa = mixedFractionText(groupedInteger(whole), numerator, denominator),
           .sign = signText(number),
-          .statusWord = statusText(whole + numerator / denominator, magnitude)});
+          .statusWord = statusWord(whole + numerator / denominator, magnitude)});
 }
 
 void DYXOutputDisplay::setCarpentryTo(double number) {
@@ -80,13 +81,14 @@ void DYXOutputDisplay::setCarpentryTo(double number) {
     }
     const double whole = std::floor(magnitude);
     const double fraction = magnitude - whole;
-    const auto finest = static_cast<int>(std::min(digits_, kFinestMark));
-    const double mark = reduceCarpentryFractions_ ? reducedMark(fraction) : std::ldexp(1.0, finest);
+    const auto finest = static_cast<int>(std::min(settings_.digits, kFinestMark));
+    const double mark =
+        settings_.reduceCarpentryFractions ? reducedMark(fraction) : std::ldexp(1.0, finest);
     // The search rounds and this doesn't: the fraction is read off at the mark below.
     const double numerator = std::trunc(fraction * mark);
     show({.mantissa = mixedFractionText(groupedInteger(whole), numerator, mark),
           .sign = signText(number),
-          .statusWord = statusText(numerator / mark + whole, magnitude)});
+          .statusWord = statusWord(numerator / mark + whole, magnitude)});
 }
 
 }  // namespace talvex

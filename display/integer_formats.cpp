@@ -105,12 +105,13 @@ void DYXOutputDisplay::setGroupedBaseTo(double number, const GroupedBase& base) 
     const std::uint32_t value = roundedUnsigned(number);
     std::size_t groups = 1;
     while (groups <= base.limits.size() &&
-           (digits_ > groups || value > base.limits.at(groups - 1))) {
+           (settings_.digits > groups || value > base.limits.at(groups - 1))) {
         ++groups;
     }
     // The two halves are parted by the one separator, the groups of a half by the other.
-    const std::array<std::u16string_view, 4> separators{
-        u"", decimalGroupingSeparator_, integerGroupingSeparator_, decimalGroupingSeparator_};
+    const std::array<std::u16string_view, 4> separators{u"", settings_.decimalGroupingSeparator,
+                                                        settings_.integerGroupingSeparator,
+                                                        settings_.decimalGroupingSeparator};
     const std::uint32_t mask = (1U << base.bitsInGroup) - 1;
     std::u16string text;
     for (std::size_t group = 0; group < groups; ++group) {
@@ -157,7 +158,7 @@ void DYXOutputDisplay::setBinaryTo(double number) {
     constexpr unsigned kGroup = 4;
     constexpr unsigned kHalf = 16;
     const std::uint32_t value = roundedUnsigned(number);
-    unsigned bits = digits_ >= 1 && digits_ <= 8 ? kGroup * digits_ : 32;
+    unsigned bits = settings_.digits >= 1 && settings_.digits <= 8 ? kGroup * settings_.digits : 32;
     while (bits < 32 && value >> bits != 0) {
         bits += kGroup;
     }
@@ -165,10 +166,10 @@ void DYXOutputDisplay::setBinaryTo(double number) {
     for (unsigned bit = bits; bit-- > 0;) {
         text += (value >> bit & 1U) != 0 ? u'1' : u'0';
         if (bit % kGroup == 0) {
-            text += decimalGroupingSeparator_;
+            text += settings_.decimalGroupingSeparator;
         }
         if (bit == kHalf) {
-            text += integerGroupingSeparator_ + u' ';
+            text += settings_.integerGroupingSeparator + u' ';
         }
     }
     showInteger(std::move(text), {.number = number,

@@ -37,21 +37,22 @@ std::u16string withPointMoved(const std::string& mantissa, int places, char16_t 
 }  // namespace
 
 void DYXOutputDisplay::setMonetaryTo(double number) {
-    if (std::fabs(number) > std::pow(10.0, digits_) - 1.0) {
+    if (std::fabs(number) > std::pow(10.0, settings_.digits) - 1.0) {
         setScientificTo(number);
         return;
     }
-    show({.mantissa = pointedText(asciiText(fixedText(std::fabs(number), digits_))),
+    show({.mantissa = pointedText(asciiText(fixedText(std::fabs(number), settings_.digits))),
           .sign = signBitText(number)});
 }
 
 void DYXOutputDisplay::setEngineeringTo(double number) {
     constexpr std::uint32_t kGroup = 3;
-    const ScientificText printed = scientificText(number, digits_);
+    const ScientificText printed = scientificText(number, settings_.digits);
     const int moved = placesMoved(printed.exponent);
     const int exponent = printed.exponent - moved;
-    std::u16string text = withPointMoved(printed.mantissa, moved, decimalSeparator_);
-    ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, decimalGroupingSeparator_, kGroup);
+    std::u16string text = withPointMoved(printed.mantissa, moved, settings_.decimalSeparator);
+    ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, settings_.decimalGroupingSeparator,
+                                                           kGroup);
     show({.mantissa = std::move(text),
           .sign = signBitText(number),
           .exponentSign = signText(exponent),

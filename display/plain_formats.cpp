@@ -22,26 +22,27 @@ bool showsAsZero(const std::string& text) {
 }  // namespace
 
 std::u16string DYXOutputDisplay::pointedText(std::u16string text) const {
-    std::replace(text.begin(), text.end(), u'.', decimalSeparator_);
+    std::replace(text.begin(), text.end(), u'.', settings_.decimalSeparator);
     // In this order: both look for the first separator, and the integer groups may bring one.
-    ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, decimalGroupingSeparator_,
-                                                           groupingDigits_);
-    ZUMutableStringExtensions::insertIntegerSeparatorEvery(text, integerGroupingSeparator_,
-                                                           groupingDigits_);
+    ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, settings_.decimalGroupingSeparator,
+                                                           settings_.groupingDigits);
+    ZUMutableStringExtensions::insertIntegerSeparatorEvery(text, settings_.integerGroupingSeparator,
+                                                           settings_.groupingDigits);
     return text;
 }
 
 std::u16string DYXOutputDisplay::groupedInteger(double number) const {
     std::u16string text = asciiText(fixedText(std::fabs(number), 0));
-    ZUMutableStringExtensions::insertIntegerSeparatorEvery(text, integerGroupingSeparator_,
-                                                           groupingDigits_);
+    ZUMutableStringExtensions::insertIntegerSeparatorEvery(text, settings_.integerGroupingSeparator,
+                                                           settings_.groupingDigits);
     return signText(number) + text;
 }
 
 void DYXOutputDisplay::setFixedTo(double number) {
     // No text with more places than that is plain, so that no more need be printed.
-    const std::string plain = fixedText(std::fabs(number), std::min(digits_, maxDigits_));
-    if (digits_ > maxDigits_ || plain.size() > maxDigits_ ||
+    const std::string plain =
+        fixedText(std::fabs(number), std::min(settings_.digits, settings_.maxDigits));
+    if (settings_.digits > settings_.maxDigits || plain.size() > settings_.maxDigits ||
         (number != 0.0 && showsAsZero(plain))) {
         setScientificTo(number);
         return;
@@ -50,10 +51,10 @@ void DYXOutputDisplay::setFixedTo(double number) {
 }
 
 void DYXOutputDisplay::setScientificTo(double number) {
-    const ScientificText printed = scientificText(number, digits_);
+    const ScientificText printed = scientificText(number, settings_.digits);
     std::u16string text = asciiText(printed.mantissa);
-    std::replace(text.begin(), text.end(), u'.', decimalSeparator_);
-    ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, decimalGroupingSeparator_,
+    std::replace(text.begin(), text.end(), u'.', settings_.decimalSeparator);
+    ZUMutableStringExtensions::insertDecimalSeparatorEvery(text, settings_.decimalGroupingSeparator,
                                                            kScientificGroup);
     show({.mantissa = std::move(text),
           .sign = signBitText(number),

@@ -41,7 +41,7 @@ void DYXOutputDisplay::setSexagesimalTo(double number, const SexagesimalLayout& 
     const double positive = wrapped < 0.0 ? wrapped + layout.modulus : wrapped;
     std::int64_t millionths = std::llrint(positive * static_cast<double>(kWhole));
 
-    const std::uint32_t places = std::min(digits_, kMostDecimals);
+    const std::uint32_t places = std::min(settings_.digits, kMostDecimals);
     std::int64_t decimals = places == 0 ? 0 : decimalsOf(millionths, places);
     if (places != 0 && decimals == tenToThe(places)) {
         millionths += kSecond - millionths % kSecond;
@@ -54,7 +54,7 @@ void DYXOutputDisplay::setSexagesimalTo(double number, const SexagesimalLayout& 
     text += layout.afterMinutes;
     text += integerText(millionths % kMinute / kSecond, kTwoDigits);
     if (places != 0) {
-        text += decimalSeparator_ + integerText(decimals, places);
+        text += settings_.decimalSeparator + integerText(decimals, places);
     }
     text += layout.afterSeconds;
     show({.mantissa = std::move(text)});

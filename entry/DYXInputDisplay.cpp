@@ -11,11 +11,11 @@ DYXInputDisplay::DYXInputDisplay(AlertPort& alert, DisplayFields fields)
     : DYXOutputDisplay(std::move(fields)), alert_(alert) {}
 
 std::int32_t DYXInputDisplay::effectiveOutputMode() const {
-    return unlockInputAndOutputModes_ ? outputMode() : inputMode_;
+    return input_.unlockInputAndOutputModes ? outputMode() : input_.inputMode;
 }
 
 std::u16string DYXInputDisplay::inputModeTitle() const {
-    return modeTitle(ModeTitle::input, inputMode_);
+    return modeTitle(ModeTitle::input, input_.inputMode);
 }
 
 // A change of mode in mid-entry can leave cuts that don't fit the text.

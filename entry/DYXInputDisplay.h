@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "display/DYXOutputDisplay.h"
+#include "entry/InputSettings.h"
 #include "platform/Platform.h"
 
 namespace talvex {
@@ -22,12 +23,16 @@ class DYXInputDisplay final : public DYXOutputDisplay {
     // `alert` sounds for refused keys and has to outlive the line.
     DYXInputDisplay(AlertPort& alert, DisplayFields fields);
 
-    [[nodiscard]] std::int32_t inputMode() const { return inputMode_; }
+    [[nodiscard]] const InputSettings& inputSettings() const { return input_; }
     // Doesn't touch the entry: its characters are read by the rules of the new mode from then on.
-    void setInputMode(std::int32_t mode) { inputMode_ = mode; }
-    // True if the output mode is independent of the input mode, false if it follows it.
-    [[nodiscard]] bool unlockInputAndOutputModes() const { return unlockInputAndOutputModes_; }
-    void setUnlockInputAndOutputModes(bool unlock) { unlockInputAndOutputModes_ = unlock; }
+    void setInputSettings(const InputSettings& settings) { input_ = settings; }
+    // The same, one by one.
+    [[nodiscard]] std::int32_t inputMode() const { return input_.inputMode; }
+    void setInputMode(std::int32_t mode) { input_.inputMode = mode; }
+    [[nodiscard]] bool unlockInputAndOutputModes() const {
+        return input_.unlockInputAndOutputModes;
+    }
+    void setUnlockInputAndOutputModes(bool unlock) { input_.unlockInputAndOutputModes = unlock; }
     [[nodiscard]] std::int32_t effectiveOutputMode() const override;
     // The title of `inputMode`; "???" outside 0 to 12.
     [[nodiscard]] std::u16string inputModeTitle() const;
@@ -153,8 +158,7 @@ class DYXInputDisplay final : public DYXOutputDisplay {
     [[nodiscard]] bool hasExponentDigits() const { return eex_[0] != '0' || eex_[1] != '0'; }
 
     AlertPort& alert_;
-    std::int32_t inputMode_ = 0;
-    bool unlockInputAndOutputModes_ = false;
+    InputSettings input_;
     bool hasDecimal_ = false;
     bool hasFraction_ = false;
     bool inExponent_ = false;

@@ -34,7 +34,7 @@ void DYXInputDisplay::setToCharacter(char character) {
 }
 
 bool DYXInputDisplay::appendCharacterToMantissa(char character) {
-    if (text_.size() >= maxDigits()) {
+    if (text_.size() >= settings().maxDigits) {
         return false;
     }
     text_ += character;

@@ -100,32 +100,32 @@ const DYXInputDisplay::Rules& DYXInputDisplay::rulesOf(std::int32_t mode) {
 }
 
 bool DYXInputDisplay::canSetToCharacter(char character) const {
-    return rulesOf(inputMode_).digits.find(character) != std::string_view::npos;
+    return rulesOf(input_.inputMode).digits.find(character) != std::string_view::npos;
 }
 
 bool DYXInputDisplay::canAppendCharacter(char character) const {
     return canSetToCharacter(character);
 }
 
-bool DYXInputDisplay::canSetToDecimal() const { return rulesOf(inputMode_).hasDecimalKey; }
+bool DYXInputDisplay::canSetToDecimal() const { return rulesOf(input_.inputMode).hasDecimalKey; }
 bool DYXInputDisplay::canAppendDecimal() const { return canSetToDecimal(); }
-bool DYXInputDisplay::canSetTo1E0() const { return rulesOf(inputMode_).hasExponentKey; }
+bool DYXInputDisplay::canSetTo1E0() const { return rulesOf(input_.inputMode).hasExponentKey; }
 bool DYXInputDisplay::canToggleInExponent() const { return canSetTo1E0(); }
-bool DYXInputDisplay::canChangeSign() const { return rulesOf(inputMode_).hasSignKey; }
+bool DYXInputDisplay::canChangeSign() const { return rulesOf(input_.inputMode).hasSignKey; }
 
 void DYXInputDisplay::appendCharacter(char character) {
-    (this->*rulesOf(inputMode_).append)(character);
+    (this->*rulesOf(input_.inputMode).append)(character);
 }
 
-void DYXInputDisplay::appendDecimal() { (this->*rulesOf(inputMode_).appendDecimal)(); }
+void DYXInputDisplay::appendDecimal() { (this->*rulesOf(input_.inputMode).appendDecimal)(); }
 
-bool DYXInputDisplay::setToDecimal() { return (this->*rulesOf(inputMode_).setToDecimal)(); }
+bool DYXInputDisplay::setToDecimal() { return (this->*rulesOf(input_.inputMode).setToDecimal)(); }
 
-double DYXInputDisplay::doubleValue() const { return (this->*rulesOf(inputMode_).value)(); }
+double DYXInputDisplay::doubleValue() const { return (this->*rulesOf(input_.inputMode).value)(); }
 
 void DYXInputDisplay::update() {
     writeStatus(inExponent_ ? u"entering exponent\u2026" : u"entering significand\u2026");
-    (this->*rulesOf(inputMode_).echo)();
+    (this->*rulesOf(input_.inputMode).echo)();
 }
 
 }  // namespace talvex

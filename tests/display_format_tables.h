@@ -3,9 +3,10 @@
 #include <cmath>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "display/display_modes.h"
+#include "display/LineSettings.h"
 
 // What each mode makes of a number: the worked examples, and both sides of each threshold.
 namespace talvex {
@@ -17,29 +18,23 @@ struct Row {
     std::u16string rest = {};  // the exponent with its sign, or the status
 };
 
-struct FormatStyle {
-    std::u16string integerSeparator = {};
-    std::u16string decimalSeparator = {};
-    char16_t point = u'.';
-    bool reducesFractions = true;
-    bool displaysIrrationals = false;
-};
-
 struct FormatTable {
-    std::int32_t mode;
-    FormatStyle style;
+    LineSettings settings;
     std::vector<Row> rows;
 };
 
-inline const FormatStyle kPlain;
-inline const FormatStyle kGrouped{.integerSeparator = u",", .decimalSeparator = u"_"};
-inline const FormatStyle kWithComma{u".", u"_", u','};
-inline const FormatStyle kUnreduced{.reducesFractions = false};
-inline const FormatStyle kIrrationals{.displaysIrrationals = true};
+inline const LineSettings kPlain;
+inline const LineSettings kGrouped{.integerGroupingSeparator = u",",
+                                   .decimalGroupingSeparator = u"_"};
+inline const LineSettings kWithComma{
+    .decimalSeparator = u',', .integerGroupingSeparator = u".", .decimalGroupingSeparator = u"_"};
+inline const LineSettings kUnreduced{.reduceCarpentryFractions = false};
+inline const LineSettings kIrrationals{.displayIrrationals = true};
 
 template <class... Rows>
-FormatTable table(std::int32_t mode, const FormatStyle& style, const Rows&... rows) {
-    return {mode, style, {rows...}};
+FormatTable table(std::int32_t mode, LineSettings settings, const Rows&... rows) {
+    settings.outputMode = mode;
+    return {std::move(settings), {rows...}};
 }
 
 inline const std::vector<FormatTable> kFormatTables{

@@ -42,13 +42,9 @@ Shown shownIn(std::int32_t mode, const Row& row) {
 
 TEST(DisplayFormat, FillsEverySlot) {
     DYXOutputDisplay line(plainFields());
-    for (const auto& [mode, style, rows] : kFormatTables) {
-        line.setOutputMode(mode);
-        line.setDecimalSeparator(style.point);
-        line.setIntegerGroupingSeparator(style.integerSeparator);
-        line.setDecimalGroupingSeparator(style.decimalSeparator);
-        line.setReduceCarpentryFractions(style.reducesFractions);
-        line.setDisplayIrrationals(style.displaysIrrationals);
+    for (const auto& [settings, rows] : kFormatTables) {
+        const std::int32_t mode = settings.outputMode;
+        line.setSettings(settings);
         for (const Row& row : rows) {
             SCOPED_TRACE(testing::Message() << row.number << " at " << row.digits << " digits");
             Shown shown = shownIn(mode, row);

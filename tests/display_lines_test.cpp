@@ -28,38 +28,26 @@ TEST(CopiedLine, IsPlainAndStandsAboveItsOriginal) {
     field->setAutoresizingMask(NSViewWidthSizable);
     view.addSubview(field);
     DYXInputDisplay line(platform, {.mantissa = field, .status = field});
-    line.setDigits(7);
-    line.setMaxDigits(12);
-    line.setInputMode(8);
-    line.setOutputMode(1);
-    line.setReduceCarpentryFractions(false);
-    line.setDisplayIrrationals(true);
-    line.setDecimalSeparator(u',');
-    line.setGroupingDigits(4);
-    line.setGroupingSeparator(u"_");
+    LineSettings settings{
+        .digits = 7, .maxDigits = 12, .outputMode = mode::SCI, .reduceCarpentryFractions = false};
+    const LineSettings copied = settings;
+    settings.displayIrrationals = true;
+    settings.decimalGroupingSeparator = u"_";
+    line.setSettings(settings);
+    line.setInputMode(mode::HEX);
     const std::unique_ptr<DYXOutputDisplay> copy = line.copy();
     EXPECT_EQ(dynamic_cast<DYXInputDisplay*>(copy.get()), nullptr);
     EXPECT_EQ(copy->mantissaField()->frame(), (NSRect{31, 40, 319, 17}));
     EXPECT_EQ(copy->mantissaField()->superview(), &view);
     EXPECT_EQ(copy->mantissaField()->autoresizingMask(), NSViewWidthSizable);
     EXPECT_EQ(copy->statusField(), nullptr);
-    EXPECT_EQ(copy->digits(), 7U);
-    EXPECT_EQ(copy->maxDigits(), 12U);
-    EXPECT_EQ(copy->outputMode(), 1);
-    EXPECT_FALSE(copy->reduceCarpentryFractions());
-    EXPECT_FALSE(copy->displayIrrationals());
-    EXPECT_EQ(copy->decimalSeparator(), u'.');
-    EXPECT_EQ(copy->groupingDigits(), 3U);
+    EXPECT_EQ(copy->settings(), copied);
 
     const NSFont font{.name = u"Some Font", .size = 20};
     line.setTextFont(font);
     copy->syncToDisplay(line);
-    EXPECT_EQ(copy->outputMode(), 8);  // the mode that the original shows in
-    EXPECT_TRUE(copy->displayIrrationals());
-    EXPECT_EQ(copy->decimalSeparator(), u',');
-    EXPECT_EQ(copy->groupingDigits(), 4U);
-    EXPECT_EQ(copy->integerGroupingSeparator(), u"_");
-    EXPECT_EQ(copy->decimalGroupingSeparator(), u"_");
+    settings.outputMode = mode::HEX;  // the mode that the original shows in
+    EXPECT_EQ(copy->settings(), settings);
     EXPECT_EQ(copy->textFont(), font);
     copy->setOutputTo(-DYXnan('Q'));  // absent slots are passed over
     EXPECT_EQ(mantissaOf(*copy), u"sqrt error");
@@ -81,7 +69,7 @@ class WindowLines : public testing::Test {
 
 TEST_F(WindowLines, NeverGroupWithTheDecimalSeparator) {
     EXPECT_EQ(shown(1234567.891), u"1,234,567.891\u20090");
-    EXPECT_EQ(controller.cDisplay().integerGroupingSeparator(), u"");
+    EXPECT_EQ(controller.cDisplay().settings().integerGroupingSeparator, u"");
     controller.setDecimalMode(2);
     EXPECT_EQ(shown(1234567.891), u"1.234.567,891\u20090");
     controller.setDecimalMode(1);
@@ -104,20 +92,22 @@ TEST_F(WindowLines, GroupByTheSettings) {
     const std::uint32_t sizes[]{3, 2, 2, 3, 4, 4, 4};
     for (int mode = 0; mode < 7; ++mode) {
         controller.setDigitGroupingDigitsMode(mode);
-        EXPECT_EQ(controller.xDisplay().groupingDigits(), sizes[mode]) << mode;
+        EXPECT_EQ(controller.xDisplay().settings().groupingDigits, sizes[mode]) << mode;
         EXPECT_EQ(controller.settings().digitGroupingDigitsMode, mode);
     }
     platform.format.groupingSize = 0;
     controller.setDigitGroupingDigitsMode(0);
-    EXPECT_EQ(controller.xDisplay().groupingDigits(), 3U);
+    EXPECT_EQ(controller.xDisplay().settings().groupingDigits, 3U);
     // By mode, the integer bases have marks of their own.
     controller.setDigitGroupingSeparatorMode(1);
     const Text thin = u"\u2009";
     const Text groups[]{u"\u2219", u",", u"\u2219", u"\u2219"};
     for (int mode = 8; mode < 12; ++mode) {
         controller.takeInputModeFrom(itemOf(mode));
-        EXPECT_EQ(controller.yDisplay().integerGroupingSeparator(), groups[mode - 8]) << mode;
-        EXPECT_EQ(controller.yDisplay().decimalGroupingSeparator(), mode == 11 ? u" " : thin);
+        EXPECT_EQ(controller.yDisplay().settings().integerGroupingSeparator, groups[mode - 8])
+            << mode;
+        EXPECT_EQ(controller.yDisplay().settings().decimalGroupingSeparator,
+                  mode == 11 ? u" " : thin);
     }
 }
 

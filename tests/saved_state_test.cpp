@@ -83,10 +83,8 @@ auto settingsOf(const DYXWindowController& calculator) {
     const WindowLayout& layout = calculator.layout();
     const HelpViews& help = calculator.views().help;
     return std::tuple(
-        line.outputMode(), line.inputMode(), line.unlockInputAndOutputModes(), line.digits(),
-        line.decimalSeparator(), line.integerGroupingSeparator(), line.groupingDigits(),
-        line.textFont()->name, line.reduceCarpentryFractions(), line.displayIrrationals(),
-        calculator.angleMode, calculator.useHPStylePowerAndLogs, settings.animateWindow,
+        line.settings(), line.inputSettings(), line.textFont()->name, calculator.angleMode,
+        calculator.useHPStylePowerAndLogs, settings.animateWindow,
         settings.includeDigitGroupingWhenCopying, settings.registerLabelsHidden,
         settings.autoHideXLabel, settings.statusLinesEnabled, layout.keyPadHidden,
         layout.displayViewMode, layout.showStatusLine, calculator.views().window.frame(),
