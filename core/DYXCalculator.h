@@ -9,6 +9,7 @@
 #include "core/Comand.h"
 #include "core/DYXStack.h"
 #include "core/converter_table.h"
+#include "core/memory_registers.h"
 #include "display/DYXOutputDisplay.h"
 #include "entry/DYXInputDisplay.h"
 #include "numeric/DYXMathContext.h"
@@ -33,8 +34,6 @@ inline constexpr std::int32_t kPlainStore = 1;
 // lines it calls `updateModifiers` and `updateControls`, which do nothing here.
 class DYXCalculator : public DYXMathContext {
   public:
-    static constexpr std::size_t kMemoryRegisters = 22;
-
     // The slots are those of the X line; the other lines get copies. The platform has to outlive
     // the calculator.
     explicit DYXCalculator(Platform& platform, const DisplayFields& fields = plainFields());
@@ -60,7 +59,6 @@ class DYXCalculator : public DYXMathContext {
     [[nodiscard]] const Comand& lastCommand() const { return lastCommand_; }
     [[nodiscard]] DYXStack& stack() { return stack_; }
     [[nodiscard]] const DYXStack& stack() const { return stack_; }
-    // 0 to 19 have keys; 20 is saved and 21 isn't even that.
     [[nodiscard]] std::array<double, kMemoryRegisters>& mem() { return mem_; }
     [[nodiscard]] const std::array<double, kMemoryRegisters>& mem() const { return mem_; }
     // The quantity of each group of units, in its base unit; 0 at every start.

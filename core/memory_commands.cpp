@@ -23,7 +23,6 @@ constexpr auto kStoreOperations = std::to_array<StoreOperation>({
     {5, fourCC("STO/"), '/', [](double memory, double x) { return memory / x; }},
 });
 
-constexpr unsigned kRegisterKeys = 20;
 constexpr char kDirectRecallPrefix = 'R';
 
 constexpr unsigned kNoRegister = 100;

@@ -84,7 +84,7 @@ TEST(Memory, KeysReachTwentyRegistersAndDirectFormsNineteen) {
             SCOPED_TRACE(prefix + digits);
             KeyScript script;
             script.press("5 STO " + (prefix + digits));
-            std::array<double, DYXCalculator::kMemoryRegisters> expected{};
+            std::array<double, kMemoryRegisters> expected{};
             if (number < 20 && (prefix == 'M' || number > 0)) {
                 expected.at(number) = 5;
             }

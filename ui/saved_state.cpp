@@ -21,6 +21,8 @@ constexpr auto kSavedDrawers = std::to_array<SavedDrawer>({
     {DrawerName::functions, &SavedState::functionsWasOpen, &SavedState::functionsDrawerState},
 });
 
+static_assert(std::tuple_size_v<decltype(SavedState::mem)> == kSavedRegisters);
+
 }  // namespace
 
 SavedState DYXWindowController::presentState() const {
