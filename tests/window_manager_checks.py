@@ -78,7 +78,7 @@ def size_of(layout):
     rows = 60 if layout["four lines"] else 0
     if layout["key pad"]:
         return 274, TITLE_BAR + 45 + rows
-    return 404, TITLE_BAR + 211 + rows + (17 if layout["status line"] else 0)
+    return WHOLE_BODY[0], WHOLE_BODY[1] + rows + (17 if layout["status line"] else 0)
 
 
 def layout_button(name, width):

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cassert>
 
+#include "ui/key_pad_geometry.h"
 #include "ui/window_layout.h"
 
 namespace talvex {
@@ -12,7 +13,7 @@ KeyPad::KeyPad(Platform& platform)
     view()->setAutoresizingMask(NSViewMinYMargin);
     addStatusField(*view(), *view(), statusLineFieldRect(), NSViewNotSizable);
     for (const KeyRow& row : keyPadRows()) {
-        panel_.keys.push_back(makeKey({.frame = keyFrame(row),
+        panel_.keys.push_back(makeKey({.frame = padKeyFrame(row.column, row.row, row.rowSpan),
                                        .command = row.command,
                                        .title = localizedTitle(row.title, platform),
                                        .hint = platform.localizedString(row.hint),
@@ -25,7 +26,7 @@ KeyPad::KeyPad(Platform& platform)
     }
     std::size_t place = 0;
     for (const DrawerKeyRow& row : drawerKeyRows()) {
-        panel_.keys.push_back(makeKey({.frame = drawerKeyFrame(place++),
+        panel_.keys.push_back(makeKey({.frame = drawerKeyFrame(place++, drawerKeyRows().size()),
                                        .command = {},
                                        .title = localizedTitle(row.title, platform),
                                        .hint = platform.localizedString(row.hint),

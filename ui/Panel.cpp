@@ -5,6 +5,7 @@
 
 #include "core/function_tables.h"
 #include "display/ascii_text.h"
+#include "ui/key_grid.h"
 #include "ui/printed_number.h"
 #include "ui/simple_tex.h"
 #include "ui/tables/drawer_positions.h"

@@ -14,10 +14,6 @@
 // The panels in the drawers, made from their tables.
 namespace talvex {
 
-// All keys of the pad and of the drawers are of one height, with the same room between them.
-inline constexpr double kKeyHeight = 21.0;
-inline constexpr double kKeyGap = 3.0;
-
 struct Key {
     std::shared_ptr<CommandButton> button;
     KeyGroup group;

@@ -4,23 +4,12 @@ namespace talvex {
 namespace {
 
 constexpr double kDisplayMargin = 5.0;
-constexpr double kDisplayHeight = 41.0;
-constexpr double kDisplayTopMargin = 2.0;
 
 // Where a window goes that has no screen, or that is larger than the screen.
 constexpr double kNowhere = 64.0;
 constexpr double kTooLarge = 40.0;
 
 }  // namespace
-
-NSRect contentFrame(const WindowLayout& layout) {
-    const bool showsFourLines = layout.displayViewMode == 1;
-    if (layout.keyPadHidden) {
-        return {.width = 274, .height = showsFourLines ? 105.0 : 45.0};
-    }
-    const double height = showsFourLines ? 271.0 : 211.0;
-    return {.width = 404, .height = layout.showStatusLine ? height + 17.0 : height};
-}
 
 NSRect leftRectOnScreen(std::span<const NSRect> screens, const NSRect& rect) {
     if (screens.empty()) {
@@ -62,14 +51,11 @@ NSRect angleModePopUpRect() { return {14, 1, 40, 15}; }
 NSRect displayViewRect() {
     const NSRect content = contentFrame({});
     return {.x = kDisplayMargin,
-            .y = content.height - kDisplayHeight - kDisplayTopMargin,
+            .y = content.height - kAroundDisplay - kDisplayHeight,
             .width = content.width - 2.0 * kDisplayMargin,
             .height = kDisplayHeight};
 }
 
-NSRect keyPadViewRect() {
-    const NSRect content = contentFrame({});
-    return {.width = content.width, .height = displayViewRect().y - kDisplayTopMargin};
-}
+NSRect keyPadViewRect() { return {.width = kKeyPadSize.width, .height = kKeyPadSize.height}; }
 
 }  // namespace talvex

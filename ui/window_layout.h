@@ -4,6 +4,7 @@
 #include <span>
 
 #include "platform/NSGeometry.h"
+#include "ui/key_pad_geometry.h"
 
 // Where things stand in the calculator window, in points.
 namespace talvex {
@@ -15,8 +16,22 @@ struct WindowLayout {
     bool showStatusLine = false;
 };
 
+inline constexpr double kDisplayHeight = 41.0;
+inline constexpr double kThreeLinesHeight = 60.0;
+inline constexpr double kAroundDisplay = 2.0;  // above and below it
+inline constexpr double kStatusStripHeight = 17.0;
+inline constexpr double kNarrowWidth = 274.0;  // of the display alone
+
 // The content rectangle of a layout, origin 0, 0.
-[[nodiscard]] NSRect contentFrame(const WindowLayout& layout);
+[[nodiscard]] constexpr NSRect contentFrame(const WindowLayout& layout) {
+    const double display = kAroundDisplay + kDisplayHeight + kAroundDisplay +
+                           (layout.displayViewMode == 1 ? kThreeLinesHeight : 0.0);
+    if (layout.keyPadHidden) {
+        return {.width = kNarrowWidth, .height = display};
+    }
+    const double status = layout.showStatusLine ? kStatusStripHeight : 0.0;
+    return {.width = kKeyPadSize.width, .height = display + kKeyPadSize.height + status};
+}
 
 // The rectangle's size at the left edge of the first screen and as high as the screen; or in the
 // middle of the first screen. At a fixed place where there are no screens, given as what can be

@@ -3,16 +3,13 @@
 #include <algorithm>
 #include <array>
 
-#include "ui/Panel.h"
+#include "ui/key_pad_geometry.h"
 
 namespace talvex {
 namespace {
 
 using enum KeyGroup;
 using enum KeyClass;
-
-constexpr int kColumns = 10;
-constexpr int kRows = 6;
 
 // Functions on the left, the stack beside ENTER, digits and operators where the right hand lies.
 constexpr auto kKeys = std::to_array<KeyRow>({
@@ -87,7 +84,7 @@ constexpr auto kKeys = std::to_array<KeyRow>({
 
 // Whether the keys fill the grid with no gap and no overlap.
 consteval bool fillsTheGrid() {
-    std::array<std::array<int, kColumns>, kRows> uses{};
+    std::array<std::array<int, kPadColumns>, kPadRows> uses{};
     for (const KeyRow& key : kKeys) {
         for (unsigned row = key.row; row < 0U + key.row + key.rowSpan; ++row) {
             ++uses.at(row).at(key.column);
@@ -122,15 +119,10 @@ constexpr auto kDrawerKeys = std::to_array<DrawerKeyRow>({
     {DrawerName::memory, u"memory \u25B8", u"open or close the drawer of memory registers"},
 });
 
-constexpr double kKeyWidth = 36.0;
-constexpr double kGap = kKeyGap;
-constexpr double kLeft = 7.0;
-constexpr double kDrawerKeyHeight = 13.0;
-constexpr double kDrawerKeysBottom = 4.0;
-constexpr double kBottom = kDrawerKeysBottom + kDrawerKeyHeight + kGap;
-// A little more room between the functions and the number keys.
-constexpr int kFirstNumberColumn = 5;
-constexpr double kGroupGap = 3.0;
+static_assert(lieApartWithin<kKeys.size() + kDrawerKeys.size()>(kKeyPadSize, [](std::size_t key) {
+    return key < kKeys.size() ? padKeyFrame(kKeys[key].column, kKeys[key].row, kKeys[key].rowSpan)
+                              : drawerKeyFrame(key - kKeys.size(), kDrawerKeys.size());
+}));
 
 }  // namespace
 
@@ -138,23 +130,5 @@ std::span<const KeyRow> keyPadRows() { return kKeys; }
 std::span<const HexKeyRow> hexKeyRows() { return kHexKeys; }
 
 std::span<const DrawerKeyRow> drawerKeyRows() { return kDrawerKeys; }
-
-NSRect drawerKeyFrame(std::size_t place) {
-    constexpr double kAllKeys = kColumns * (kKeyWidth + kGap) - kGap + kGroupGap;
-    constexpr double kPitch = (kAllKeys + kGap) / kDrawerKeys.size();
-    return {.x = kLeft + static_cast<double>(place) * kPitch,
-            .y = kDrawerKeysBottom,
-            .width = kPitch - kGap,
-            .height = kDrawerKeyHeight};
-}
-
-NSRect keyFrame(const KeyRow& key) {
-    const int rowsBelow = kRows - key.row - key.rowSpan;
-    return {.x = kLeft + key.column * (kKeyWidth + kGap) +
-                 (key.column >= kFirstNumberColumn ? kGroupGap : 0.0),
-            .y = kBottom + rowsBelow * (kKeyHeight + kGap),
-            .width = kKeyWidth,
-            .height = key.rowSpan * (kKeyHeight + kGap) - kGap};
-}
 
 }  // namespace talvex

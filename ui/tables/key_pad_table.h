@@ -4,7 +4,6 @@
 #include <span>
 #include <string_view>
 
-#include "platform/NSGeometry.h"
 #include "ui/DYXButton.h"
 #include "ui/Drawers.h"
 
@@ -24,9 +23,6 @@ struct KeyRow {
 
 [[nodiscard]] std::span<const KeyRow> keyPadRows();
 
-// The place of a key within the key pad, in points.
-[[nodiscard]] NSRect keyFrame(const KeyRow& key);
-
 // The flat keys below all others: each opens and closes a drawer.
 struct DrawerKeyRow {
     DrawerName drawer;
@@ -35,7 +31,6 @@ struct DrawerKeyRow {
 };
 
 [[nodiscard]] std::span<const DrawerKeyRow> drawerKeyRows();
-[[nodiscard]] NSRect drawerKeyFrame(std::size_t place);
 
 // What the six keys on the top right do, which carry the letters of HEX input or exponents.
 struct HexKeyRow {
