@@ -223,7 +223,7 @@ TEST_F(WindowGeometry, OpensADrawerAgainWholeThatWasDraggedShut) {
 // A drawer at rest shows whole columns or rows.
 TEST_F(WindowGeometry, CutsNoKeyAtAnyRestingPlace) {
     const auto expectWhole = [this](DrawerName name, const std::vector<Key>& keys) {
-        for (const float edge : controller.drawers()[name].positions) {
+        for (const double edge : controller.drawers()[name].positions) {
             for (const Key& key : keys) {
                 const NSRect& frame = key.button->frame();
                 const bool isLevel = drawer(name).isLevel();
@@ -235,6 +235,10 @@ TEST_F(WindowGeometry, CutsNoKeyAtAnyRestingPlace) {
     };
     expectWhole(DrawerName::constants, views.constantsPanel.keys);
     expectWhole(DrawerName::functions, views.functionsPanel.keys);
+    const auto positions = [this](DrawerName name) { return controller.drawers()[name].positions; };
+    EXPECT_EQ(positions(DrawerName::constants),
+              (std::vector<double>{313, 271, 229, 182, 133, 91, 47}));
+    EXPECT_EQ(positions(DrawerName::functions), (std::vector<double>{182, 153, 126, 98, 73, 47}));
 }
 
 }  // namespace

@@ -8,13 +8,12 @@
 namespace talvex {
 namespace {
 
-constexpr int kTabHeight = 16;
 constexpr int kLeastTabWidth = 100;
 constexpr double kTabFontSize = 9.0;
 constexpr int kSmallControl = 2;
 constexpr int kSquareBezel = 6;
 constexpr int kChangesGray = 4;
-constexpr NSSize kTabSpacing{-1.0, -1.0};
+constexpr NSSize kTabSpacing{-DYXTabView::kTabOverlap, -DYXTabView::kTabOverlap};
 constexpr NSColor kFaintGray = NSColor::white(0.5, 0.0625);
 
 int quotientRoundedUp(int dividend, int divisor) { return (dividend + divisor - 1) / divisor; }
@@ -64,17 +63,16 @@ void DYXTabView::setMatrixRowsColumns(int rows, int columns) {
     }
     const NSRect& place = frame();
     matrix_ = std::make_shared<NSMatrix>(NSRect{.x = place.x,
-                                                .y = place.y + place.height - rows,
+                                                .y = place.y + place.height - rows * kTabOverlap,
                                                 .width = place.width,
-                                                .height = static_cast<double>(rows * kTabHeight)},
+                                                .height = rows * kTabHeight},
                                          NSMatrixMode::radio, rows, columns);
     for (int index = 0; index < rows * columns; ++index) {
         matrix_->setCellAt(index / columns, index % columns, cellForTab(index));
     }
     matrix_->setAction([this](NSMatrix& matrix) { matrixAction(matrix); });
     matrix_->setIntercellSpacing(kTabSpacing);
-    matrix_->setCellSize(
-        {(place.width - (columns - 1) * kTabSpacing.width) / columns, double{kTabHeight}});
+    matrix_->setCellSize({(place.width - (columns - 1) * kTabSpacing.width) / columns, kTabHeight});
     if (superview() != nullptr) {
         superview()->addSubview(matrix_);
     }

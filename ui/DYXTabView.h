@@ -13,6 +13,10 @@ namespace talvex {
 // Its status field tells what the control under the pointer does.
 class DYXTabView : public NSTabView, public DYXStatusLineTracker {
   public:
+    static constexpr double kTabHeight = 16.0;
+    static constexpr double kTabOverlap = 1.0;  // of the frames of neighbours
+    static constexpr double kTabPitch = kTabHeight - kTabOverlap;
+
     // The hot keys have to outlive the view.
     DYXTabView(const NSRect& frame, std::vector<NSTabViewItem> items, const HotKeys& hotKeys);
 

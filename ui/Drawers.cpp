@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <utility>
 
 #include "platform/NSWindow.h"
 #include "ui/WindowViews.h"
-#include "ui/window_layout.h"
+#include "ui/panel_geometry.h"
 
 namespace talvex {
 namespace {
@@ -18,8 +19,9 @@ constexpr double kSlidingStep = 15.0;
 // A drawer above or below stands in the middle of its side; one at a side hangs below the title
 // bar.
 Drawer::Drawer(const std::shared_ptr<NSView>& content, NSRectEdge edge,
-               const DrawerPositions& restingPlaces)
-    : record({content->frame().width, content->frame().height}, edge), positions(restingPlaces) {
+               std::vector<double> restingPlaces)
+    : record({content->frame().width, content->frame().height}, edge),
+      positions(std::move(restingPlaces)) {
     record.setContentView(content);
     if (record.isLevel()) {
         const double ends = contentFrame({}).width - content->frame().width - NSDrawer::kEnds;
@@ -31,10 +33,12 @@ Drawer::Drawer(const std::shared_ptr<NSView>& content, NSRectEdge edge,
 }
 
 Drawers::Drawers(const WindowViews& views)
-    : drawers_{Drawer(views.memoryPanel.view, NSMaxXEdge, kNoPositions),
-               Drawer(views.constantsPanel.view, NSMinXEdge, kConstantsPositions),
-               Drawer(views.conversionPanel.view, NSMaxYEdge, kNoPositions),
-               Drawer(views.functionsPanel.view, NSMinYEdge, kFunctionsPositions)} {
+    : drawers_{Drawer(views.memoryPanel.view, NSMaxXEdge, {}),
+               Drawer(views.constantsPanel.view, NSMinXEdge,
+                      constantsGrid(constantKeyRows().size()).columns.restingPlaces()),
+               Drawer(views.conversionPanel.view, NSMaxYEdge, {}),
+               Drawer(views.functionsPanel.view, NSMinYEdge,
+                      functionsGrid(functionKeyRows()).rows.restingPlaces())} {
     (*this)[DrawerName::functions].trackedView = views.functionsPanel.view.get();
     (*this)[DrawerName::memory].trackedView = views.memoryPanel.view.get();
 }
@@ -58,7 +62,7 @@ bool Drawers::areClosed() const {
     });
 }
 
-NSSize slideDrawerToPositionsNearestTo(NSDrawer& drawer, const DrawerPositions& positions,
+NSSize slideDrawerToPositionsNearestTo(NSDrawer& drawer, std::span<const double> positions,
                                        const NSSize& size) {
     double NSSize::*const moved = drawer.isLevel() ? &NSSize::height : &NSSize::width;
     NSSize place = size;
@@ -71,12 +75,7 @@ NSSize slideDrawerToPositionsNearestTo(NSDrawer& drawer, const DrawerPositions& 
             target = position;
         }
     };
-    for (const float position : positions) {
-        if (!(position > 0.0F)) {
-            break;
-        }
-        consider(position);
-    }
+    std::for_each(positions.begin(), positions.end(), consider);
     consider(drawer.maxContentSize().*moved);
     consider(drawer.minContentSize().*moved);
 

@@ -2,10 +2,11 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
+#include <vector>
 
 #include "platform/NSDrawer.h"
 #include "ui/DYXStatusLineView.h"
-#include "ui/tables/drawer_positions.h"
 
 namespace talvex {
 
@@ -17,10 +18,12 @@ inline constexpr auto kDrawerNames = std::to_array<DrawerName>(
 
 struct Drawer {
     Drawer(const std::shared_ptr<NSView>& content, NSRectEdge edge,
-           const DrawerPositions& restingPlaces);
+           std::vector<double> restingPlaces);
 
     NSDrawer record;
-    const DrawerPositions& positions;
+    // Widths or heights of the content at which the drawer comes to rest, besides none and all:
+    // from the largest down.
+    std::vector<double> positions;
     bool wasOpen = false;                      // whether it comes back with the key pad
     NSSize lastSize;                           // that the user last dragged it to
     DYXStatusLineView* trackedView = nullptr;  // whose tracking rectangles follow a drag
@@ -49,7 +52,7 @@ class Drawers {
 
 // Slides the drawer in small steps to the position of its list, or to its full or least size,
 // whichever is nearest to the size; the first of equals. Answers where it is then.
-NSSize slideDrawerToPositionsNearestTo(NSDrawer& drawer, const DrawerPositions& positions,
+NSSize slideDrawerToPositionsNearestTo(NSDrawer& drawer, std::span<const double> positions,
                                        const NSSize& size);
 
 }  // namespace talvex

@@ -1,57 +1,16 @@
 #include "ui/Panel.h"
 
-#include <array>
 #include <string>
 
 #include "core/function_tables.h"
 #include "display/ascii_text.h"
-#include "ui/key_grid.h"
+#include "ui/panel_geometry.h"
 #include "ui/printed_number.h"
 #include "ui/simple_tex.h"
-#include "ui/tables/drawer_positions.h"
 #include "ui/tables/panel_tables.h"
 
 namespace talvex {
 namespace {
-
-constexpr double kKeyWidth = 36.0;
-constexpr double kMargin = 5.0;
-constexpr double kStatusHeight = 18.0;
-constexpr double kStatusBottom = 2.0;
-constexpr double kKeysBottom = 23.0;
-
-// Drawers at the sides: six rows.
-constexpr int kSideRows = 6;
-constexpr double kSideHeight = kKeysBottom + kSideRows * (kKeyHeight + kKeyGap) - kKeyGap + kMargin;
-
-// The drawers above and below: six columns of wider keys.
-constexpr int kColumns = 6;
-constexpr double kWideKeyWidth = 58.0;
-constexpr double kWideMargin = 9.0;
-constexpr double kWidth = 2.0 * kWideMargin + kColumns * (kWideKeyWidth + kKeyGap) - kKeyGap;
-
-double rowOffset(int row) { return row * (kKeyHeight + kKeyGap); }
-
-NSRect sideKeyFrame(int row, double x, double width) {
-    return {.x = x,
-            .y = kSideHeight - kMargin - kKeyHeight - rowOffset(row),
-            .width = width,
-            .height = kKeyHeight};
-}
-
-NSRect wideKeyFrame(int column, int columnSpan, double left, double y) {
-    return {.x = left + column * (kWideKeyWidth + kKeyGap),
-            .y = y,
-            .width = columnSpan * (kWideKeyWidth + kKeyGap) - kKeyGap,
-            .height = kKeyHeight};
-}
-
-NSRect statusFrame(double panelWidth) {
-    return {.x = kMargin,
-            .y = kStatusBottom,
-            .width = panelWidth - 2.0 * kMargin,
-            .height = kStatusHeight};
-}
 
 // Words are set smaller than formulas, and single signs larger.
 constexpr double kLongWordSize = 9.0;
@@ -152,16 +111,11 @@ void ConversionPanel::setKeyAction(const KeyAction& action) const {
 }
 
 Panel makeMemoryPanel(Platform& platform) {
-    static constexpr int kRegisterColumns = 5;
-    static constexpr int kRegisters = 20;
-    static constexpr int kFirstRegisterRow = 2;
-    static constexpr double kPitch = kKeyWidth + kKeyGap;
-    Panel panel = makePanel({2.0 * kMargin + kRegisterColumns * kPitch - kKeyGap, kSideHeight},
-                            NSViewWidthSizable);
+    const KeyGrid grid = memoryGrid(memoryKeyRows());
+    Panel panel = makePanel(grid.size(), NSViewWidthSizable);
     for (const MemoryKeyRow& row : memoryKeyRows()) {
         addKey(panel,
-               {.frame = sideKeyFrame(row.row, kMargin + row.column * kPitch,
-                                      row.columnSpan * kPitch - kKeyGap),
+               {.frame = memoryKeyFrame(grid, row),
                 .command = row.command,
                 .title = localizedTitle(row.title, platform),
                 .hint = platform.localizedString(row.hint),
@@ -170,14 +124,13 @@ Panel makeMemoryPanel(Platform& platform) {
                NSViewMinXMargin, platform);
     }
     const std::u16string registerName = platform.localizedString(u"memory register");
-    for (int number = 0; number < kRegisters; ++number) {
+    for (unsigned number = 0; number < kRegisterKeys; ++number) {
         const std::u16string digits = asciiText(std::to_string(number));
         std::u16string hint = registerName;
         hint.append(u" ").append(digits);
         addKey(panel,
-               {.frame = sideKeyFrame(kFirstRegisterRow + number / kRegisterColumns,
-                                      kMargin + number % kRegisterColumns * kPitch, kKeyWidth),
-                .command = registerCommand(static_cast<unsigned>(number)),
+               {.frame = registerFrame(grid, number),
+                .command = registerCommand(number),
                 .title = u"M_{" + digits + u"}",
                 .hint = std::move(hint),
                 .group = KeyGroup::digit},
@@ -187,32 +140,27 @@ Panel makeMemoryPanel(Platform& platform) {
 }
 
 Panel makeConstantsPanel(Platform& platform) {
-    static constexpr auto kEdges = edgesOf<8>(kConstantsPositions, 355.0);
-    Panel panel = makePanel({kEdges.back(), kSideHeight}, NSViewWidthSizable);
-    int number = 0;
+    const KeyGrid grid = constantsGrid(constantKeyRows().size());
+    Panel panel = makePanel(grid.size(), NSViewWidthSizable);
     for (const ConstantKeyRow& row : constantKeyRows()) {
-        const auto column = static_cast<std::size_t>(number / kSideRows);
-        const double left = column == 0 ? kMargin : kEdges.at(column - 1);
         addKey(panel,
-               {.frame = sideKeyFrame(number % kSideRows, left, kEdges.at(column) - left - kKeyGap),
+               {.frame = grid.frameByColumns(panel.keys.size()),
                 .command = row.command,
                 .title = std::u16string(row.title),
                 .hint = constantHint(row, platform),
                 .group = KeyGroup::digit},
                NSViewMaxXMargin, platform);
         panel.keys.back().button->setAccessibilityLabel(platform.localizedString(row.name));
-        ++number;
     }
     return panel;
 }
 
 Panel makeFunctionsPanel(Platform& platform) {
-    static constexpr auto kEdges = edgesOf<7>(kFunctionsPositions, 208.0);
-    Panel panel = makePanel({kWidth, kEdges.back()}, NSViewNotSizable);
+    const KeyGrid grid = functionsGrid(functionKeyRows());
+    Panel panel = makePanel(grid.size(), NSViewNotSizable);
     for (const FunctionKeyRow& row : functionKeyRows()) {
         addKey(panel,
-               {.frame = wideKeyFrame(row.column, row.columnSpan, kWideMargin,
-                                      kEdges.at(row.row) - kKeyGap - kKeyHeight),
+               {.frame = functionKeyFrame(grid, row),
                 .command = row.command,
                 .title = localizedTitle(row.title, platform),
                 .hint = platform.localizedString(row.hint)},
@@ -223,22 +171,10 @@ Panel makeFunctionsPanel(Platform& platform) {
 
 namespace {
 
-constexpr int kUnitRows = 4;
-constexpr double kPageMargin = 5.0;
-constexpr double kPageHeight = 2.0 * kPageMargin + kUnitRows * (kKeyHeight + kKeyGap) - kKeyGap;
-constexpr NSRect kTabFrame{.x = kWideMargin - kPageMargin,
-                           .y = 22.0,
-                           .width = kWidth - 2.0 * (kWideMargin - kPageMargin),
-                           .height = kPageHeight};
-constexpr double kTabButtonsHeight = 60.0;
-
-std::vector<Key> unitKeys(const UnitPage& page, Platform& platform) {
+std::vector<Key> unitKeys(const UnitPage& page, const KeyGrid& grid, Platform& platform) {
     std::vector<Key> keys;
     for (const UnitKeyRow& unit : page.units) {
-        const int number = static_cast<int>(keys.size());
-        keys.push_back(makeKey({.frame = wideKeyFrame(number % kColumns, 1, kPageMargin,
-                                                      kPageHeight - kPageMargin - kKeyHeight -
-                                                          rowOffset(number / kColumns)),
+        keys.push_back(makeKey({.frame = grid.frameByRows(keys.size()),
                                 .command = page.commandOf(unit),
                                 .title = std::u16string(unit.title),
                                 .hint = platform.localizedString(unit.name)},
@@ -251,24 +187,25 @@ std::vector<Key> unitKeys(const UnitPage& page, Platform& platform) {
 }  // namespace
 
 ConversionPanel makeConversionPanel(Platform& platform, const HotKeys& hotKeys) {
+    const KeyGrid grid = unitsGrid(unitPages());
+    const NSSize page = grid.size();
+    const NSSize size = conversionPanelSize(page);
     ConversionPanel panel;
     std::vector<NSTabViewItem> items;
-    for (const UnitPage& page : unitPages()) {
-        auto view =
-            std::make_shared<NSView>(NSRect{.width = kTabFrame.width, .height = kTabFrame.height});
-        panel.pages.push_back(unitKeys(page, platform));
+    for (const UnitPage& units : unitPages()) {
+        auto view = std::make_shared<NSView>(NSRect{.width = page.width, .height = page.height});
+        panel.pages.push_back(unitKeys(units, grid, platform));
         for (const Key& key : panel.pages.back()) {
             view->addSubview(key.button);
         }
-        items.push_back({.label = platform.localizedString(page.label), .view = std::move(view)});
+        items.push_back({.label = platform.localizedString(units.label), .view = std::move(view)});
     }
-    panel.view = std::make_shared<NSView>(NSRect{
-        .width = kWidth, .height = kTabFrame.y + kTabFrame.height + kTabButtonsHeight + kMargin});
-    panel.tabView = std::make_shared<DYXTabView>(kTabFrame, std::move(items), hotKeys);
+    panel.view = std::make_shared<NSView>(NSRect{.width = size.width, .height = size.height});
+    panel.tabView = std::make_shared<DYXTabView>(tabFrame(page), std::move(items), hotKeys);
     panel.tabView->setAutoresizingMask(NSViewMinYMargin);
     panel.view->addSubview(panel.tabView);
-    addStatusField(*panel.view, *panel.tabView, statusFrame(kWidth), NSViewMinYMargin);
-    panel.tabView->setNumberOfRows(kUnitRows);
+    addStatusField(*panel.view, *panel.tabView, statusFrame(size.width), NSViewMinYMargin);
+    panel.tabView->setNumberOfRows(kTabRows);
     return panel;
 }
 

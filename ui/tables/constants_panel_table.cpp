@@ -1,5 +1,6 @@
 #include <array>
 
+#include "ui/panel_geometry.h"
 #include "ui/tables/panel_tables.h"
 
 namespace talvex {
@@ -65,6 +66,12 @@ constexpr auto kKeys = std::to_array<ConstantKeyRow>({
     {command("cons", "L2e "), u"log_{2}e", u"logarithm of e to the base 2", u""},
     {command("cons", "LOGe"), u"log e", u"logarithm of e to the base 10", u""},
 });
+
+constexpr KeyGrid kGrid = constantsGrid(kKeys.size());
+static_assert(kGrid.size().height <= kSideDrawerRoom);
+static_assert(lieApartWithin<kKeys.size()>(kGrid.size(), [](std::size_t number) {
+    return kGrid.frameByColumns(number);
+}));
 
 }  // namespace
 

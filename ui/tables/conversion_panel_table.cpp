@@ -1,5 +1,6 @@
 #include <array>
 
+#include "ui/panel_geometry.h"
 #include "ui/tables/panel_tables.h"
 
 namespace talvex {
@@ -242,6 +243,11 @@ constexpr auto kPages = std::to_array<UnitPage>({
     {u"Acceleration", fourCC("accl"), kAccelerations},
     {u"Angle", fourCC("angl"), kAngles},
 });
+
+constexpr KeyGrid kGrid = unitsGrid(kPages);
+static_assert(lieApartWithin<kGrid.capacity()>(kGrid.size(), [](std::size_t number) {
+    return kGrid.frameByRows(number);
+}));
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include <array>
 
+#include "ui/panel_geometry.h"
 #include "ui/tables/panel_tables.h"
 
 namespace talvex {
@@ -57,6 +58,11 @@ constexpr auto kKeys = std::to_array<FunctionKeyRow>({
     {command("unit", "ERF "), u"erf", u"error function", 6, 4},
     {command("unit", "ERFC"), u"erfc", u"complement of the error function", 6, 5},
 });
+
+constexpr KeyGrid kGrid = functionsGrid(kKeys);
+static_assert(lieApartWithin<kKeys.size()>(kGrid.size(), [](std::size_t key) {
+    return functionKeyFrame(kGrid, kKeys[key]);
+}));
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include <array>
 
+#include "ui/panel_geometry.h"
 #include "ui/tables/panel_tables.h"
 
 namespace talvex {
@@ -20,6 +21,13 @@ constexpr auto kKeys = std::to_array<MemoryKeyRow>({
     {command("memo", "STOC"), u"cancel", u"take back STO and RCL", clear, 1, 1, 2},
     {command("memo", "CLMM"), u"clear all", u"clear all memory registers", clear, 1, 3, 2},
 });
+
+constexpr KeyGrid kGrid = memoryGrid(kKeys);
+static_assert(kGrid.size().height <= kSideDrawerRoom);
+static_assert(lieApartWithin<kKeys.size() + kRegisterKeys>(kGrid.size(), [](std::size_t key) {
+    return key < kKeys.size() ? memoryKeyFrame(kGrid, kKeys[key])
+                              : registerFrame(kGrid, key - kKeys.size());
+}));
 
 }  // namespace
 

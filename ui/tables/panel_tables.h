@@ -16,7 +16,7 @@ struct ConstantKeyRow {
     std::u16string_view unit;  // empty for pure numbers
 };
 
-// Eight columns of six, by columns.
+// By columns, from the top.
 [[nodiscard]] std::span<const ConstantKeyRow> constantKeyRows();
 
 struct FunctionKeyRow {
@@ -28,7 +28,6 @@ struct FunctionKeyRow {
     std::uint8_t columnSpan = 1;
 };
 
-// Seven rows of six.
 [[nodiscard]] std::span<const FunctionKeyRow> functionKeyRows();
 
 struct MemoryKeyRow {
@@ -42,7 +41,7 @@ struct MemoryKeyRow {
     KeyClass keyClass = KeyClass::key;
 };
 
-// The keys above the registers; the registers M0 to M19 fill the rows below, five to a row.
+// The keys above the registers, which fill the rows below.
 [[nodiscard]] std::span<const MemoryKeyRow> memoryKeyRows();
 
 struct UnitKeyRow {
