@@ -120,7 +120,7 @@ void DYXCalculator::doCommandDataEntryBackspace() {
         return;
     }
     xDisplay_->removeCharacter();
-    if (xDisplay_->length() == 0) {
+    if (xDisplay_->entry().text.empty()) {
         stack_.x() = 0.0;
         inputState_ = InputState::replacing;
     }

@@ -77,7 +77,7 @@ void DYXOutputDisplay::format(const ModeRow& row, double number) {
 
 void DYXOutputDisplay::setOutputTo(double number) {
     setTextColor(NSColor::black());
-    updateOutputJustification();
+    alignMantissaAsIn(effectiveOutputMode());
     if (std::isnan(number)) {
         show({.mantissa = worded(DYXnanString(number))});
         return;
@@ -90,10 +90,10 @@ void DYXOutputDisplay::setOutputTo(double number) {
 }
 
 void DYXOutputDisplay::show(LineText text) {
-    writeMantissa(std::move(text.mantissa));
-    writeMantissaSign(std::move(text.sign));
-    writeExponentSign(std::move(text.exponentSign));
-    writeExponent(std::move(text.exponent));
+    write(fields_.mantissa, std::move(text.mantissa));
+    write(fields_.mantissaSign, std::move(text.sign));
+    write(fields_.exponentSign, std::move(text.exponentSign));
+    write(fields_.exponent, std::move(text.exponent));
     writeStatus(text.statusWord, text.statusRest);
 }
 
@@ -177,10 +177,10 @@ void DYXOutputDisplay::setTextFont(const NSFont& font) {
     }
 }
 
-void DYXOutputDisplay::updateOutputJustification() {
+void DYXOutputDisplay::alignMantissaAsIn(std::int32_t mode) {
     if (fields_.mantissa) {
-        fields_.mantissa->setAlignment(
-            isIntegerMode(effectiveOutputMode()) ? NSTextAlignment::right : NSTextAlignment::left);
+        fields_.mantissa->setAlignment(isIntegerMode(mode) ? NSTextAlignment::right
+                                                           : NSTextAlignment::left);
     }
 }
 

@@ -10,6 +10,7 @@
 
 #include "display/DisplayFields.h"
 #include "display/LineSettings.h"
+#include "display/LineText.h"
 
 namespace talvex {
 
@@ -122,14 +123,9 @@ class DYXOutputDisplay {
     bool setIrrationalFractionTo(double number);
 
   protected:
-    static void write(const TextSlot& slot, std::u16string text);
-    void writeMantissa(std::u16string text) { write(fields_.mantissa, std::move(text)); }
-    void writeMantissaSign(std::u16string text) { write(fields_.mantissaSign, std::move(text)); }
-    void writeExponent(std::u16string text) { write(fields_.exponent, std::move(text)); }
-    void writeExponentSign(std::u16string text) { write(fields_.exponentSign, std::move(text)); }
-    // A word, and what isn't one behind it.
-    void writeStatus(std::u16string_view word, std::u16string_view rest = {});
-    [[nodiscard]] std::u16string worded(std::u16string_view word) const;
+    void show(LineText text);
+    // Left, and right in HEX, DEC, OCT and BIN.
+    void alignMantissaAsIn(std::int32_t mode);
 
     enum class ModeTitle { input, output };
     // The name of a mode with a small triangle ahead of it or behind it.
@@ -146,18 +142,10 @@ class DYXOutputDisplay {
     static const ModeRow& rowOfMode(std::int32_t mode);
     void format(const ModeRow& row, double number);
 
-    // All that a line says of a number.
-    struct LineText {
-        std::u16string mantissa;
-        std::u16string sign = {};
-        std::u16string exponentSign = {};
-        std::u16string exponent = {};
-        std::u16string_view statusWord = {};
-        std::u16string statusRest = {};
-    };
-    void show(LineText text);
-    // Aligns the mantissa left, and right in HEX, DEC, OCT and BIN.
-    void updateOutputJustification();
+    static void write(const TextSlot& slot, std::u16string text);
+    // A word, and what isn't one behind it.
+    void writeStatus(std::u16string_view word, std::u16string_view rest = {});
+    [[nodiscard]] std::u16string worded(std::u16string_view word) const;
     // Printed decimals with the line's point and groups.
     [[nodiscard]] std::u16string pointedText(std::u16string text) const;
     // A whole number in the line's groups.

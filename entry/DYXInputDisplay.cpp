@@ -1,11 +1,17 @@
 #include "entry/DYXInputDisplay.h"
 
-#include <algorithm>
-#include <utility>
-
-#include "display/display_modes.h"
+#include "entry/entry_rules.h"
 
 namespace talvex {
+namespace {
+
+void sound(AlertPort& alert, KeyAnswer answer) {
+    if (answer == KeyAnswer::alert) {
+        alert.NSBeep();
+    }
+}
+
+}  // namespace
 
 DYXInputDisplay::DYXInputDisplay(AlertPort& alert, DisplayFields fields)
     : DYXOutputDisplay(std::move(fields)), alert_(alert) {}
@@ -18,25 +24,52 @@ std::u16string DYXInputDisplay::inputModeTitle() const {
     return modeTitle(ModeTitle::input, input_.inputMode);
 }
 
-// A change of mode in mid-entry can leave cuts that don't fit the text.
-std::size_t DYXInputDisplay::wholeEnd() const {
-    return static_cast<std::size_t>(std::clamp(length() + exp_, 0, length()));
+const EntryRules& DYXInputDisplay::rules() const { return entryRules(input_.inputMode); }
+
+bool DYXInputDisplay::canSetToCharacter(char character) const {
+    return rules().digits.find(character) != std::string_view::npos;
 }
 
-std::size_t DYXInputDisplay::numeratorEnd() const {
-    return std::max(wholeEnd(), static_cast<std::size_t>(std::clamp(length() + frc_, 0, length())));
+void DYXInputDisplay::setToCharacter(char character) {
+    reset();
+    entry_.append(character, settings().maxDigits);
 }
 
-std::string_view DYXInputDisplay::wholePart() const {
-    return std::string_view(text_).substr(0, wholeEnd());
+void DYXInputDisplay::appendCharacter(char character) {
+    sound(alert_, rules().append(entry_, character, settings()));
 }
 
-std::string_view DYXInputDisplay::numerator() const {
-    return std::string_view(text_).substr(wholeEnd(), numeratorEnd() - wholeEnd());
+bool DYXInputDisplay::canSetToDecimal() const { return rules().hasDecimalKey; }
+
+void DYXInputDisplay::setToDecimal() {
+    reset();
+    appendDecimal();
 }
 
-std::string_view DYXInputDisplay::denominator() const {
-    return std::string_view(text_).substr(numeratorEnd());
+void DYXInputDisplay::appendDecimal() { sound(alert_, rules().appendDecimal(entry_)); }
+
+bool DYXInputDisplay::canSetTo1E0() const { return rules().hasExponentKey; }
+
+void DYXInputDisplay::setTo1E(std::string_view exponent) {
+    entry_.startWithOne();
+    entry_.setExponent(exponent);
+}
+
+void DYXInputDisplay::setExponentTo(std::string_view exponent) {
+    entry_.setExponent(exponent);
+    entry_.inExponent = true;
+}
+
+bool DYXInputDisplay::canChangeSign() const { return rules().hasSignKey; }
+
+double DYXInputDisplay::doubleValue() const { return rules().value(entry_, settings()); }
+
+void DYXInputDisplay::update() {
+    LineText text = rules().echo(entry_, settings());
+    text.statusWord =
+        entry_.inExponent ? u"entering exponent\u2026" : u"entering significand\u2026";
+    alignMantissaAsIn(input_.inputMode);
+    show(std::move(text));
 }
 
 }  // namespace talvex

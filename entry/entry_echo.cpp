@@ -1,105 +1,111 @@
-// The live entry as it stands in the line's slots: ungrouped, not rounded.
+#include "entry/entry_echo.h"
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "display/ascii_text.h"
-#include "entry/DYXInputDisplay.h"
 #include "entry/entry_fields.h"
 
 namespace talvex {
+namespace {
 
-std::u16string DYXInputDisplay::signText() const { return sgn_ ? u"-" : u""; }
+std::u16string signText(const EntryState& entry) { return entry.isNegative ? u"-" : u""; }
 
-void DYXInputDisplay::echo(NSTextAlignment alignment, std::u16string sign, std::u16string mantissa,
-                           std::u16string_view baseName) {
-    if (mantissaField()) {
-        mantissaField()->setAlignment(alignment);
+LineText fractionOver(const EntryState& entry, std::u16string_view defaultDenominator) {
+    std::u16string mantissa = asciiText(entry.wholePart());
+    if (entry.hasDecimal && entry.decimals == 0) {
+        mantissa.append(u"  0/").append(defaultDenominator);
+    } else if (entry.hasDecimal) {
+        mantissa +=
+            u"  " + (entry.numerator().empty() ? u"0" : asciiText(entry.numerator())) + u'/';
+        mantissa +=
+            entry.hasFraction ? asciiText(entry.denominator()) : std::u16string(defaultDenominator);
     }
-    writeMantissaSign(std::move(sign));
-    writeMantissa(std::move(mantissa));
-    writeExponentSign(u"");
-    writeExponent(std::u16string(baseName));
+    return {.mantissa = std::move(mantissa), .sign = signText(entry)};
 }
 
-void DYXInputDisplay::updateScientific() {
-    std::u16string mantissa = asciiText(wholePart());
-    if (hasDecimal_) {
-        mantissa += decimalSeparator() + asciiText(std::string_view(text_).substr(wholeEnd()));
-    }
-    echo(NSTextAlignment::left, signText(), std::move(mantissa));
-    if (hasExponentDigits()) {
-        writeExponentSign(asciiText({&eex_[2], 1}));
-    }
-    if (hasExponentDigits() || inExponent_) {
-        writeExponent(asciiText({eex_.data(), 2}));
-    }
+LineText integerEcho(const EntryState& entry, std::u16string_view baseName) {
+    return {.mantissa = asciiText(entry.text),
+            .sign = signText(entry),
+            .exponent = std::u16string(baseName)};
 }
 
-void DYXInputDisplay::echoFractionOver(std::u16string_view defaultDenominator) {
-    std::u16string mantissa = asciiText(wholePart());
-    if (hasDecimal_ && exp_ == 0) {
-        mantissa += u"  0/";
-        mantissa += defaultDenominator;
-    } else if (hasDecimal_) {
-        mantissa += u"  " + (numerator().empty() ? u"0" : asciiText(numerator())) + u'/';
-        mantissa += hasFraction_ ? asciiText(denominator()) : std::u16string(defaultDenominator);
+}  // namespace
+
+LineText scientificEcho(const EntryState& entry, const LineSettings& settings) {
+    LineText line{.mantissa = asciiText(entry.wholePart()), .sign = signText(entry)};
+    if (entry.hasDecimal) {
+        line.mantissa += settings.decimalSeparator + asciiText(entry.behindDecimal());
     }
-    echo(NSTextAlignment::left, signText(), std::move(mantissa));
+    if (entry.hasExponent()) {
+        line.exponentSign = asciiText({&entry.exponentSign, 1});
+    }
+    if (entry.hasExponent() || entry.inExponent) {
+        line.exponent = asciiText({entry.exponentDigits.data(), entry.exponentDigits.size()});
+    }
+    return line;
 }
 
-void DYXInputDisplay::updateFraction() { echoFractionOver(u"1"); }
+LineText fractionEcho(const EntryState& entry, const LineSettings& /*settings*/) {
+    return fractionOver(entry, u"1");
+}
 
-void DYXInputDisplay::updateCarpentry() {
+LineText carpentryEcho(const EntryState& entry, const LineSettings& settings) {
     static constexpr auto kDenominators = std::to_array<std::u16string_view>(
         {u"1", u"2", u"4", u"8", u"16", u"32", u"64", u"128", u"256", u"512"});
-    echoFractionOver(digits() < kDenominators.size() ? kDenominators.at(digits())
-                                                     : std::u16string_view());
+    return fractionOver(entry, settings.digits < kDenominators.size()
+                                   ? kDenominators.at(settings.digits)
+                                   : std::u16string_view());
 }
 
-void DYXInputDisplay::updateHMS() {
+LineText hmsEcho(const EntryState& entry, const LineSettings& settings) {
     std::u16string mantissa;
-    for (std::size_t place = 0; place < text_.size(); ++place) {
+    for (std::size_t place = 0; place < entry.text.size(); ++place) {
         if (place == kHoursFields.width()) {
-            mantissa += decimalSeparator();
+            mantissa += settings.decimalSeparator;
         }
-        mantissa += static_cast<char16_t>(text_[place]);
+        mantissa += static_cast<char16_t>(entry.text[place]);
         if (place + 1 == kHoursFields.ends[0] || place + 1 == kHoursFields.ends[1]) {
             mantissa += u" : ";
         }
     }
-    echo(NSTextAlignment::left, signText(), std::move(mantissa));
+    return {.mantissa = std::move(mantissa), .sign = signText(entry)};
 }
 
-void DYXInputDisplay::updateDMS() {
+LineText dmsEcho(const EntryState& entry, const LineSettings& settings) {
     std::u16string mantissa;
-    for (std::size_t place = 0; place < text_.size(); ++place) {
+    for (std::size_t place = 0; place < entry.text.size(); ++place) {
         if (place == kDegreesFields.width()) {
-            mantissa += decimalSeparator();
+            mantissa += settings.decimalSeparator;
         }
-        mantissa += static_cast<char16_t>(text_[place]);
+        mantissa += static_cast<char16_t>(entry.text[place]);
         if (place + 1 == kDegreesFields.ends[0]) {
             mantissa += u"\u00B0 ";
         } else if (place + 1 == kDegreesFields.ends[1]) {
             mantissa += u"' ";
         }
     }
-    if (text_.size() >= kDegreesFields.width()) {
+    if (entry.text.size() >= kDegreesFields.width()) {
         mantissa += u'"';
     }
-    echo(NSTextAlignment::left, signText(), std::move(mantissa));
+    return {.mantissa = std::move(mantissa), .sign = signText(entry)};
 }
 
-void DYXInputDisplay::echoInteger(std::u16string_view baseName) {
-    echo(NSTextAlignment::right, signText(), asciiText(text_), baseName);
+LineText hexEcho(const EntryState& entry, const LineSettings& /*settings*/) {
+    return integerEcho(entry, u"hex");
 }
 
-void DYXInputDisplay::updateHEX() { echoInteger(u"hex"); }
-void DYXInputDisplay::updateOctal() { echoInteger(u"oct"); }
-void DYXInputDisplay::updateBinary() { echoInteger(u"bin"); }
+LineText decimalEcho(const EntryState& entry, const LineSettings& /*settings*/) {
+    return {.mantissa = signText(entry) + asciiText(entry.text), .exponent = u"dec"};
+}
 
-void DYXInputDisplay::updateDecimal() {
-    echo(NSTextAlignment::right, u"", signText() + asciiText(text_), u"dec");
+LineText octalEcho(const EntryState& entry, const LineSettings& /*settings*/) {
+    return integerEcho(entry, u"oct");
+}
+
+LineText binaryEcho(const EntryState& entry, const LineSettings& /*settings*/) {
+    return integerEcho(entry, u"bin");
 }
 
 }  // namespace talvex

@@ -164,8 +164,8 @@ void checkInvariants(DYXWindowController& calculator) {
     require(state >= 0 && state <= 2);
     require(calculator.store() >= 0 && calculator.store() <= 5);
     const DYXInputDisplay& entry = calculator.xDisplay();
-    require(entry.length() >= 0 && entry.length() <= 32);
-    require(entry.exp() <= 0 && entry.frc() <= 0);
+    require(entry.entry().text.size() <= 32);
+    require(entry.entry().hasFraction || entry.entry().denominatorDigits == 0);
     checkLine(entry);
     for (const DYXOutputDisplay* line :
          {&calculator.yDisplay(), &calculator.zDisplay(), &calculator.tDisplay()}) {

@@ -88,8 +88,8 @@ TEST(EntryEcho, ShowsWhatWasTyped) {
             script.press(row.keys);
             EXPECT_EQ(script.line(), row.line);
             EXPECT_EQ(script.beeps(), row.beeps);
-            EXPECT_EQ(script.status(),
-                      script.entry().inExponent() ? "entering exponent…" : "entering significand…");
+            EXPECT_EQ(script.status(), script.entry().entry().inExponent ? "entering exponent…"
+                                                                         : "entering significand…");
             EXPECT_EQ(script.entry().mantissaField()->alignment(),
                       isIntegerMode(mode.number) ? NSTextAlignment::right : NSTextAlignment::left);
         }
@@ -135,10 +135,10 @@ TEST(EntryRules, EachModeAcceptsItsKeys) {
         EXPECT_EQ(script.entry().canChangeSign(), row.sign);
         // Digits over the limit are dropped in silence.
         for (std::size_t count = 0; count <= row.limit; ++count) {
-            EXPECT_EQ(script.entry().text(), std::string(count, '1'));
+            EXPECT_EQ(script.entry().entry().text, std::string(count, '1'));
             script.press("1");
         }
-        EXPECT_EQ(script.entry().text(), std::string(row.limit, '1'));
+        EXPECT_EQ(script.entry().entry().text, std::string(row.limit, '1'));
         EXPECT_EQ(script.beeps(), 0);
     }
 }

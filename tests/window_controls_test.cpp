@@ -27,7 +27,7 @@ class WindowControls : public testing::Test {
         return std::tuple(
             controller.stack().reg, controller.stack().lastX, controller.mem(),
             controller.inputState(), controller.inverse, controller.hyperbolic, controller.recall(),
-            controller.store(), line.text(), line.unlockInputAndOutputModes(),
+            controller.store(), line.entry(), line.inputSettings(),
             std::count_if(kDrawerNames.begin(), kDrawerNames.end(), [this](DrawerName name) {
                 return controller.drawers()[name].record.isOpenOrOpening();
             }));
@@ -113,7 +113,7 @@ TEST_F(WindowControls, TheDecimalKeyShowsTheSeparator) {
     EXPECT_EQ(key.image(), u"");
     EXPECT_EQ(key.title(), u"\u00B7");
     EXPECT_TRUE(controller.keyDown({.charactersIgnoringModifiers = u"\u00B7"}));
-    EXPECT_TRUE(controller.xDisplay().hasDecimal());
+    EXPECT_TRUE(controller.xDisplay().entry().hasDecimal);
     controller.setDecimalMode(1);
     EXPECT_EQ(key.image(), u"pointSmall.tiff");
 }

@@ -173,7 +173,7 @@ TEST_F(Window, CanBeWalkedThroughByTheKeyboardAlone) {
     button("8")->setFocus();
     QTest::keyClick(&window, Qt::Key_Space);
     QTest::keyClick(&window, '5');  // digits go to the calculator from anywhere
-    EXPECT_EQ(controller.xDisplay().text(), "85");
+    EXPECT_EQ(controller.xDisplay().entry().text, "85");
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_EQ(window.focusWidget(), &window);
 }
