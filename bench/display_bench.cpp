@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "core/DYXCalculator.h"
 #include "display/display_modes.h"
 #include "numeric/fraction_search.h"
 #include "oracle/naive_functions.h"
@@ -31,11 +32,11 @@ double secondsSince(std::chrono::steady_clock::time_point start) {
 void fourLines(benchmark::State& state, std::int32_t outputMode) {
     HeadlessPlatform platform;
     DYXWindowController calculator(platform);
-    calculator.xDisplay().setOutputMode(outputMode);
-    calculator.xDisplay().setUnlockInputAndOutputModes(true);
-    calculator.updateDigitGrouping();
-    calculator.syncDisplays();
-    calculator.stack().reg = kHardNumbers;
+    calculator.choose(settingRow<&Settings::unlockInputAndOutputModes>(), 1);
+    calculator.choose(settingRow<&Settings::outputDisplayMode>(), outputMode);
+    CalculatorState state;
+    state.stack.reg = kHardNumbers;
+    calculator.calculator().setState(state);
     const Comand rollDown{.category = fourCC("stac"), .action = fourCC("ROLD")};
     std::vector<double> seconds;
     for (auto _ : state) {

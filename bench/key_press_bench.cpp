@@ -7,6 +7,7 @@
 #include <cmath>
 #include <vector>
 
+#include "core/DYXCalculator.h"
 #include "platform/HeadlessPlatform.h"
 #include "ui/DYXWindowController.h"
 
@@ -18,7 +19,9 @@ constexpr std::size_t kPresses = 100'000;
 
 // Numbers that need all their digits, and a command that changes all four lines.
 void prepare(DYXWindowController& calculator) {
-    calculator.stack().reg = {-1234567.891, std::sqrt(2.0) * 1e9, 1.0 / 3.0, -9.87654321e-5};
+    CalculatorState state;
+    state.stack.reg = {-1234567.891, std::sqrt(2.0) * 1e9, 1.0 / 3.0, -9.87654321e-5};
+    calculator.calculator().setState(state);
 }
 
 void keyPress(benchmark::State& state) {

@@ -72,7 +72,7 @@ void slide(PaintCounter& counter, DYXWindowController& controller, DrawerName na
     for (int time = 0; time < 4; ++time) {  // the first time the keys are made
         const double processor = processorMilliseconds();
         counter.start();
-        controller.toggleDrawer(drawer);
+        controller.drawers().toggleDrawer(name);
         run(260);
         std::vector<double> gaps;
         for (std::size_t frame = 1; frame < counter.frames.size(); ++frame) {
@@ -102,7 +102,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     HeadlessPlatform platform;
     DYXWindowController controller(platform);
-    controller.takeShowYZTRegistersFrom();
+    controller.geometry().takeShowYZTRegistersFrom();
     CalculatorWindow window(controller);
     window.show();
     run(300);

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "core/DYXCalculator.h"
 #include "core/converter_table.h"
 #include "core/function_tables.h"
 #include "oracle/hard_numbers.h"
@@ -34,7 +35,9 @@ struct Case {
 class Runner {
   public:
     double time(const Case& item) {
-        calculator_.stack().reg = {item.x, item.y, 3.0, 4.0};
+        CalculatorState state;
+        state.stack.reg = {item.x, item.y, 3.0, 4.0};
+        calculator_.calculator().setState(state);
         const auto start = std::chrono::steady_clock::now();
         calculator_.doCommand(item.command);
         const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;

@@ -95,55 +95,106 @@ bool DYXCalculator::doCommand(const Comand& command) {
     const bool isKnown = row != kCategories.end() && (this->*row->handler)(command);
     roundMonetaryX();
     updateDisplay();
-    lastCommand_ = command;
+    now_.lastCommand = command;
     return isKnown;
 }
 
-void DYXCalculator::press(const Comand& command) {
-    doCommand(command);
+bool DYXCalculator::press(const Comand& command) {
+    const bool isKnown = doCommand(command);
     clearUsedModifiers(command);
-    updateModifiers();
+    return isKnown;
 }
 
 void DYXCalculator::clearUsedModifiers(const Comand& command) {
     const KeptModifiers kept = keptBy(command);
-    inverse = inverse && kept.inverseAndHyperbolic;
-    hyperbolic = hyperbolic && kept.inverseAndHyperbolic;
-    recall_ = recall_ && kept.recall;
-    store_ = kept.store ? store_ : kNothingArmed;
+    Modifiers& modifiers = now_.modifiers;
+    modifiers.inverse = modifiers.inverse && kept.inverseAndHyperbolic;
+    modifiers.hyperbolic = modifiers.hyperbolic && kept.inverseAndHyperbolic;
+    modifiers.recall = modifiers.recall && kept.recall;
+    modifiers.store = kept.store ? modifiers.store : Store::nothing;
 }
 
 void DYXCalculator::roundMonetaryX() {
     if (xDisplay_->inputMode() == mode::MON) {
-        stack_.x() = DYXRoundToDigits(stack_.x(), xDisplay_->digits());
+        now_.stack.x() = DYXRoundToDigits(now_.stack.x(), xDisplay_->digits());
     }
 }
 
 void DYXCalculator::updateRegister() {
-    if (inputState_ == InputState::entering) {
-        stack_.x() = xDisplay_->doubleValue();
+    if (now_.inputState == InputState::entering) {
+        now_.stack.x() = xDisplay_->doubleValue();
         roundMonetaryX();
     }
 }
 
 void DYXCalculator::updateDisplay() {
-    if (inputState_ == InputState::entering) {
+    if (now_.inputState == InputState::entering) {
         xDisplay_->update();
     } else {
-        xDisplay_->setOutputTo(stack_.reg[0]);
+        xDisplay_->setOutputTo(now_.stack.reg[0]);
     }
-    yDisplay_->setOutputTo(stack_.reg[1]);
-    zDisplay_->setOutputTo(stack_.reg[2]);
-    tDisplay_->setOutputTo(stack_.reg[3]);
-    updateControls();
+    yDisplay_->setOutputTo(now_.stack.reg[1]);
+    zDisplay_->setOutputTo(now_.stack.reg[2]);
+    tDisplay_->setOutputTo(now_.stack.reg[3]);
+}
+
+void DYXCalculator::syncDisplays() {
+    for (DYXOutputDisplay* const line :
+         {yDisplay_.get(), zDisplay_.get(), tDisplay_.get(), cDisplay_.get()}) {
+        line->syncToDisplay(*xDisplay_);
+    }
+    cDisplay_->setGroupingSeparator(u"");
+}
+
+CalculatorState DYXCalculator::state() const {
+    CalculatorState state = now_;
+    state.entry = xDisplay_->entry();
+    return state;
+}
+
+void DYXCalculator::setState(const CalculatorState& state) {
+    now_ = state;
+    xDisplay_->setEntry(state.entry);
+}
+
+DYXMathContext DYXCalculator::context() const {
+    return {.angleMode = angleMode_,
+            .inverse = now_.modifiers.inverse,
+            .hyperbolic = now_.modifiers.hyperbolic,
+            .useHPStylePowerAndLogs = useHPStylePowerAndLogs_};
+}
+
+void DYXCalculator::bringPasted(double number) {
+    if (now_.inputState == InputState::entering) {
+        now_.inputState = InputState::lifting;
+    } else {
+        now_.stack.pushOntoStack();
+        now_.inputState = InputState::replacing;
+    }
+    now_.stack.x() = number;
+    updateDisplay();
+}
+
+void DYXCalculator::finishEntry() {
+    if (now_.inputState == InputState::entering) {
+        updateRegister();
+        now_.stack.pushOntoStack();
+        now_.inputState = InputState::lifting;
+    }
+}
+
+void DYXCalculator::restore(const DYXStack& stack,
+                            std::span<const double, kSavedRegisters> memory) {
+    now_.stack = stack;
+    std::copy(memory.begin(), memory.end(), now_.mem.begin());
 }
 
 bool DYXCalculator::doCommandStack(const Comand& command) {
     for (const StackRow& row : kStackMoves) {
         if (row.action == command.action) {
             updateRegister();
-            (stack_.*row.move)();
-            inputState_ = InputState::lifting;
+            (now_.stack.*row.move)();
+            now_.inputState = InputState::lifting;
             return true;
         }
     }

@@ -6,10 +6,7 @@
 #include <span>
 #include <utility>
 
-#include "core/Comand.h"
-#include "core/DYXStack.h"
-#include "core/converter_table.h"
-#include "core/memory_registers.h"
+#include "core/CalculatorState.h"
 #include "display/DYXOutputDisplay.h"
 #include "entry/DYXInputDisplay.h"
 #include "numeric/DYXMathContext.h"
@@ -17,29 +14,13 @@
 
 namespace talvex {
 
-// Where X is, and what the next digit does.
-enum class InputState : std::int32_t {
-    entering = 0,   // X is the text of the entry; the digit goes on with it
-    replacing = 1,  // X is in its register; the digit replaces it
-    lifting = 2,    // X is in its register; the digit lifts the stack first
-};
-
-// A memory register operation that the next register key completes; the numbers are those of the
-// store keys.
-inline constexpr std::int32_t kNothingArmed = 0;
-inline constexpr std::int32_t kPlainStore = 1;
-
 // A whole calculator without a window: registers, modifiers, five lines, and the one path that
-// every command takes. It knows no keys and no layout; where it makes something visible beyond its
-// lines it calls `updateModifiers` and `updateControls`, which do nothing here.
-class DYXCalculator : public DYXMathContext {
+// every command takes. It knows no keys and no layout.
+class DYXCalculator {
   public:
     // The slots are those of the X line; the other lines get copies. The platform has to outlive
     // the calculator.
     explicit DYXCalculator(Platform& platform, const DisplayFields& fields = plainFields());
-    DYXCalculator(const DYXCalculator&) = delete;
-    DYXCalculator& operator=(const DYXCalculator&) = delete;
-    virtual ~DYXCalculator() = default;
 
     // Runs a command: its handler, the rounding of X in input mode MON, and the display; then the
     // command becomes `lastCommand`. Answers whether a handler knows it; an unknown one changes no
@@ -47,31 +28,37 @@ class DYXCalculator : public DYXMathContext {
     bool doCommand(const Comand& command);
     // A press of a key: its command, with the modifiers as they are; then clears the modifiers that
     // the press used up.
-    void press(const Comand& command);
+    bool press(const Comand& command);
 
-    // Brings X up to date with the entry, if one is live. Doesn't change the state.
-    void updateRegister();
-    // Shows the registers on the lines, and what depends on them.
+    // Shows the registers on the lines.
     void updateDisplay();
+    // Makes the lines Y, Z, T and C follow X; C groups no digits.
+    void syncDisplays();
 
-    [[nodiscard]] InputState inputState() const { return inputState_; }
-    void setInputState(InputState state) { inputState_ = state; }
-    [[nodiscard]] const Comand& lastCommand() const { return lastCommand_; }
-    [[nodiscard]] DYXStack& stack() { return stack_; }
-    [[nodiscard]] const DYXStack& stack() const { return stack_; }
-    [[nodiscard]] std::array<double, kMemoryRegisters>& mem() { return mem_; }
-    [[nodiscard]] const std::array<double, kMemoryRegisters>& mem() const { return mem_; }
-    // The quantity of each group of units, in its base unit; 0 at every start.
-    [[nodiscard]] std::array<double, kConversionRegisters>& converted() { return converted_; }
-    [[nodiscard]] const std::array<double, kConversionRegisters>& converted() const {
-        return converted_;
-    }
+    // All that a command may change, as one value.
+    [[nodiscard]] CalculatorState state() const;
+    void setState(const CalculatorState& state);
+    [[nodiscard]] const DYXStack& stack() const { return now_.stack; }
+    [[nodiscard]] const auto& mem() const { return now_.mem; }
+    [[nodiscard]] const auto& converted() const { return now_.converted; }
+    [[nodiscard]] InputState inputState() const { return now_.inputState; }
+    [[nodiscard]] const Comand& lastCommand() const { return now_.lastCommand; }
+    [[nodiscard]] const Modifiers& modifiers() const { return now_.modifiers; }
+    void setModifiers(const Modifiers& modifiers) { now_.modifiers = modifiers; }
 
-    [[nodiscard]] bool recall() const { return recall_; }
-    void setRecall(bool recall) { recall_ = recall; }
-    // What is armed: 0 nothing, 1 store, 2 to 5 store with +, -, *, /.
-    [[nodiscard]] std::int32_t store() const { return store_; }
-    void setStore(std::int32_t store) { store_ = store; }
+    // A number from outside: takes the place of a live entry, and else is pushed onto the stack.
+    void bringPasted(double number);
+    // Finishes a live entry as ENTER does.
+    void finishEntry();
+    // Puts the stack, X included, and the first memory registers back.
+    void restore(const DYXStack& stack, std::span<const double, kSavedRegisters> memory);
+
+    // The settings of the functions.
+    [[nodiscard]] AngleMode angleMode() const { return angleMode_; }
+    void setAngleMode(AngleMode mode) { angleMode_ = mode; }
+    void setUseHPStylePowerAndLogs(bool use) { useHPStylePowerAndLogs_ = use; }
+    // The settings and modifiers that functions may read.
+    [[nodiscard]] DYXMathContext context() const;
 
     [[nodiscard]] DYXInputDisplay& xDisplay() { return *xDisplay_; }
     [[nodiscard]] const DYXInputDisplay& xDisplay() const { return *xDisplay_; }
@@ -81,15 +68,9 @@ class DYXCalculator : public DYXMathContext {
     // Not on show: formats numbers for the clipboard.
     [[nodiscard]] DYXOutputDisplay& cDisplay() { return *cDisplay_; }
 
-    // Shows which modifiers are on.
-    virtual void updateModifiers() {}
-
-  protected:
-    // Brings everything up to date that shows the calculator's state besides the lines.
-    virtual void updateControls() {}
-    [[nodiscard]] Platform& platform() const { return platform_; }
-
   private:
+    // Brings X up to date with the entry, if one is live. Doesn't change the input state.
+    void updateRegister();
     void roundMonetaryX();
     void clearUsedModifiers(const Comand& command);
 
@@ -115,7 +96,7 @@ class DYXCalculator : public DYXMathContext {
     bool doCommandMemory(const Comand& command);
     void doCommandMemoryDigit(const Comand& command);
     bool doCommandMemoryDirect(const Comand& command);
-    void operateOnRegister(std::int32_t operation, unsigned number);
+    void storeOrRecall(Store operation, unsigned number);
 
     // Units, in conversion_commands.cpp.
     bool doCommandConvert(const Comand& command);
@@ -134,13 +115,10 @@ class DYXCalculator : public DYXMathContext {
     void bringNumber(double number);
 
     Platform& platform_;
-    InputState inputState_ = InputState::lifting;
-    Comand lastCommand_;
-    DYXStack stack_;
-    std::array<double, kMemoryRegisters> mem_{};
-    std::array<double, kConversionRegisters> converted_{};
-    bool recall_ = false;
-    std::int32_t store_ = kNothingArmed;
+    // Its entry is with the X line.
+    CalculatorState now_;
+    AngleMode angleMode_ = AngleMode::rad;
+    bool useHPStylePowerAndLogs_ = true;
     std::unique_ptr<DYXInputDisplay> xDisplay_;
     std::unique_ptr<DYXOutputDisplay> yDisplay_;
     std::unique_ptr<DYXOutputDisplay> zDisplay_;

@@ -11,6 +11,7 @@ struct DYXStack {
     double lastX = 0.0;
 
     [[nodiscard]] double& x() { return reg[0]; }
+    [[nodiscard]] double x() const { return reg[0]; }
 
     // Lifts the stack and saves X in `lastX`; X keeps its value.
     void pushOntoStack();

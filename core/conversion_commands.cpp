@@ -9,11 +9,11 @@ namespace talvex {
 // expresses the quantity in its own unit. Any command between them makes the next one a first one
 // again, and an armed store or recall overrules both.
 bool DYXCalculator::readsConverted(const Comand& command) const {
-    if (recall_) {
+    if (now_.modifiers.recall) {
         return true;
     }
-    return store_ != kPlainStore && lastCommand_.category == fourCC("conv") &&
-           lastCommand_.group == command.group;
+    return now_.modifiers.store != Store::plain && now_.lastCommand.category == fourCC("conv") &&
+           now_.lastCommand.group == command.group;
 }
 
 bool DYXCalculator::doCommandConvert(const Comand& command) {
@@ -22,13 +22,13 @@ bool DYXCalculator::doCommandConvert(const Comand& command) {
         return false;
     }
     updateRegister();
-    double& quantity = converted_.at(row->group.index);
+    double& quantity = now_.converted.at(row->group.index);
     if (readsConverted(command)) {
-        stack_.x() = row->fromBase(*this, quantity);
+        now_.stack.x() = row->fromBase(context(), quantity);
     } else {
-        quantity = row->toBase(*this, stack_.x());
+        quantity = row->toBase(context(), now_.stack.x());
     }
-    inputState_ = InputState::lifting;
+    now_.inputState = InputState::lifting;
     return true;
 }
 

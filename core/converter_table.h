@@ -16,8 +16,6 @@ struct UnitGroup {
     std::size_t index = 0;  // of the register
 };
 
-inline constexpr std::size_t kConversionRegisters = 16;
-
 // One unit. An action stands in several groups where two units have the same name.
 struct ConverterRow {
     using Function = double (*)(const DYXMathContext&, double value, Conversion direction);

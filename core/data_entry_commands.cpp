@@ -55,16 +55,16 @@ bool DYXCalculator::doCommandDataEntry(const Comand& command) {
 // Starts an entry: the stack lifts if it is to, and the old X goes.
 template <class Start>
 void DYXCalculator::startEntry(Start start) {
-    if (inputState_ == InputState::lifting) {
-        stack_.pushOntoStack();
+    if (now_.inputState == InputState::lifting) {
+        now_.stack.pushOntoStack();
     }
     start();
-    inputState_ = InputState::entering;
+    now_.inputState = InputState::entering;
 }
 
 bool DYXCalculator::doCommandDataEntryDigit(const Comand& command) {
     const char digit = characterOf(command.action, 3);
-    const bool isEntering = inputState_ == InputState::entering;
+    const bool isEntering = now_.inputState == InputState::entering;
     if (isEntering && xDisplay_->canAppendCharacter(digit)) {
         xDisplay_->appendCharacter(digit);
     } else if (!isEntering && xDisplay_->canSetToCharacter(digit)) {
@@ -77,7 +77,7 @@ bool DYXCalculator::doCommandDataEntryDigit(const Comand& command) {
 
 // A point that is refused in mid-entry is refused in silence.
 void DYXCalculator::doCommandDataEntryDecimal() {
-    if (inputState_ == InputState::entering) {
+    if (now_.inputState == InputState::entering) {
         if (xDisplay_->canAppendDecimal()) {
             xDisplay_->appendDecimal();
         }
@@ -89,7 +89,7 @@ void DYXCalculator::doCommandDataEntryDecimal() {
 }
 
 void DYXCalculator::doCommandDataEntryEEX() {
-    const bool isEntering = inputState_ == InputState::entering;
+    const bool isEntering = now_.inputState == InputState::entering;
     if (isEntering && xDisplay_->canToggleInExponent()) {
         xDisplay_->toggleInExponent();
     } else if (!isEntering && xDisplay_->canSetTo1E0()) {
@@ -103,7 +103,7 @@ bool DYXCalculator::doCommandDataEntrySetExponent(const Comand& command) {
     const std::array exponent{characterOf(command.action, 1), characterOf(command.action, 2),
                               characterOf(command.action, 3)};
     const std::string_view text(exponent.data(), exponent.size());
-    const bool isEntering = inputState_ == InputState::entering;
+    const bool isEntering = now_.inputState == InputState::entering;
     if (isEntering && xDisplay_->canToggleInExponent()) {
         xDisplay_->setExponentTo(text);
     } else if (!isEntering && xDisplay_->canSetTo1E0()) {
@@ -115,22 +115,22 @@ bool DYXCalculator::doCommandDataEntrySetExponent(const Comand& command) {
 }
 
 void DYXCalculator::doCommandDataEntryBackspace() {
-    if (inputState_ != InputState::entering) {
+    if (now_.inputState != InputState::entering) {
         beginReplacing();
         return;
     }
     xDisplay_->removeCharacter();
     if (xDisplay_->entry().text.empty()) {
-        stack_.x() = 0.0;
-        inputState_ = InputState::replacing;
+        now_.stack.x() = 0.0;
+        now_.inputState = InputState::replacing;
     }
 }
 
 // Flips the sign bit of a finished X: of zero and of error values too.
 void DYXCalculator::doCommandDataEntryChangeSign() {
-    if (inputState_ != InputState::entering) {
-        stack_.x() = std::copysign(stack_.x(), std::signbit(stack_.x()) ? 1.0 : -1.0);
-        inputState_ = InputState::lifting;
+    if (now_.inputState != InputState::entering) {
+        now_.stack.x() = std::copysign(now_.stack.x(), std::signbit(now_.stack.x()) ? 1.0 : -1.0);
+        now_.inputState = InputState::lifting;
     } else if (xDisplay_->canChangeSign()) {
         xDisplay_->changeSign();
     }
@@ -138,26 +138,26 @@ void DYXCalculator::doCommandDataEntryChangeSign() {
 
 void DYXCalculator::doCommandDataEntryEnter() {
     updateRegister();
-    stack_.pushOntoStack();
-    inputState_ = InputState::replacing;
+    now_.stack.pushOntoStack();
+    now_.inputState = InputState::replacing;
 }
 
 void DYXCalculator::beginReplacing() {
-    stack_.x() = 0.0;
+    now_.stack.x() = 0.0;
     xDisplay_->reset();
-    inputState_ = InputState::replacing;
+    now_.inputState = InputState::replacing;
 }
 
 void DYXCalculator::doCommandDataEntryClear() { beginReplacing(); }
 
 void DYXCalculator::doCommandDataEntryClearStack() {
-    stack_.reg.fill(0.0);
+    now_.stack.reg.fill(0.0);
     beginReplacing();
 }
 
 void DYXCalculator::doCommandDataEntryClearAll() {
-    stack_.reg.fill(0.0);
-    mem_.fill(0.0);
+    now_.stack.reg.fill(0.0);
+    now_.mem.fill(0.0);
     beginReplacing();
 }
 

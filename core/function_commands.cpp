@@ -20,10 +20,10 @@ bool DYXCalculator::applyFunction(const Row* row, std::index_sequence<Register..
         return false;
     }
     updateRegister();
-    stack_.lastX = stack_.x();
-    stack_.x() = (*row)(*this, stack_.reg[Register]...);
-    stack_.dropOntoXReg(sizeof...(Register) - 1);
-    inputState_ = InputState::lifting;
+    now_.stack.lastX = now_.stack.x();
+    now_.stack.x() = (*row)(context(), now_.stack.reg[Register]...);
+    now_.stack.dropOntoXReg(sizeof...(Register) - 1);
+    now_.inputState = InputState::lifting;
     return true;
 }
 
@@ -47,9 +47,9 @@ bool DYXCalculator::doCommandQuadranary(const Comand& command) {
 // A command that brings a number lifts the stack in every state.
 void DYXCalculator::bringNumber(double number) {
     updateRegister();
-    stack_.pushOntoStack();
-    stack_.x() = number;
-    inputState_ = InputState::lifting;
+    now_.stack.pushOntoStack();
+    now_.stack.x() = number;
+    now_.inputState = InputState::lifting;
 }
 
 bool DYXCalculator::doCommandConstant(const Comand& command) {
@@ -71,8 +71,9 @@ bool DYXCalculator::doCommandNullinary(const Comand& command) {
 bool DYXCalculator::doCommandModifier(const Comand& command) {
     const bool isInverse = command.action == fourCC("ARC ");
     const bool isHyperbolic = command.action == fourCC("HYP ");
-    inverse = inverse != isInverse;
-    hyperbolic = hyperbolic != isHyperbolic;
+    Modifiers& modifiers = now_.modifiers;
+    modifiers.inverse = modifiers.inverse != isInverse;
+    modifiers.hyperbolic = modifiers.hyperbolic != isHyperbolic;
     return isInverse || isHyperbolic;
 }
 

@@ -1,5 +1,6 @@
 // Category "memo": arming a store or a recall, and the register keys that complete it.
 
+#include <algorithm>
 #include <array>
 
 #include "core/DYXCalculator.h"
@@ -9,18 +10,18 @@ namespace {
 
 // A way to store X in a register, reached by arming it ahead of a register key or directly.
 struct StoreOperation {
-    std::int32_t store;
+    Store store;
     std::uint32_t armingAction;
     char directPrefix;
     double (*newValue)(double memory, double x);
 };
 
 constexpr auto kStoreOperations = std::to_array<StoreOperation>({
-    {kPlainStore, fourCC("STO "), 'S', [](double /*memory*/, double x) { return x; }},
-    {2, fourCC("STO+"), '+', [](double memory, double x) { return memory + x; }},
-    {3, fourCC("STO-"), '-', [](double memory, double x) { return memory - x; }},
-    {4, fourCC("STO*"), '*', [](double memory, double x) { return memory * x; }},
-    {5, fourCC("STO/"), '/', [](double memory, double x) { return memory / x; }},
+    {Store::plain, fourCC("STO "), 'S', [](double /*memory*/, double x) { return x; }},
+    {Store::add, fourCC("STO+"), '+', [](double memory, double x) { return memory + x; }},
+    {Store::subtract, fourCC("STO-"), '-', [](double memory, double x) { return memory - x; }},
+    {Store::multiply, fourCC("STO*"), '*', [](double memory, double x) { return memory * x; }},
+    {Store::divide, fourCC("STO/"), '/', [](double memory, double x) { return memory / x; }},
 });
 
 constexpr char kDirectRecallPrefix = 'R';
@@ -41,7 +42,7 @@ bool isRegisterKey(std::uint32_t action) {
            registerNumber(action) != kNoRegister;
 }
 
-const StoreOperation* findByStore(std::int32_t store) {
+const StoreOperation* findByStore(Store store) {
     for (const StoreOperation& row : kStoreOperations) {
         if (row.store == store) {
             return &row;
@@ -59,31 +60,30 @@ bool DYXCalculator::doCommandMemory(const Comand& command) {
         armed = row.armingAction == command.action ? &row : armed;
     }
     if (armed != nullptr) {
-        store_ = store_ == armed->store ? kNothingArmed : armed->store;
+        now_.modifiers.store = now_.modifiers.store == armed->store ? Store::nothing : armed->store;
     } else if (command.action == fourCC("RCL ")) {
-        recall_ = !recall_;
+        now_.modifiers.recall = !now_.modifiers.recall;
     } else if (command.action == fourCC("STOC")) {
-        store_ = kNothingArmed;
-        recall_ = false;
+        now_.modifiers.store = Store::nothing;
+        now_.modifiers.recall = false;
     } else if (command.action == fourCC("CLMM")) {
-        mem_.fill(0.0);
+        now_.mem.fill(0.0);
     } else if (isRegisterKey(command.action)) {
         doCommandMemoryDigit(command);
     } else {
         isKnown = doCommandMemoryDirect(command);
     }
-    updateModifiers();
     return isKnown;
 }
 
-// Operation 0 recalls the register, the others store X in it.
-void DYXCalculator::operateOnRegister(std::int32_t operation, unsigned number) {
-    double& memory = mem_.at(number);
+// Recalls the register if there is nothing to store.
+void DYXCalculator::storeOrRecall(Store operation, unsigned number) {
+    double& memory = now_.mem.at(number);
     if (const StoreOperation* row = findByStore(operation)) {
-        memory = row->newValue(memory, stack_.x());
+        memory = row->newValue(memory, now_.stack.x());
     } else {
-        stack_.pushOntoStack();
-        stack_.x() = memory;
+        now_.stack.pushOntoStack();
+        now_.stack.x() = memory;
     }
 }
 
@@ -91,29 +91,29 @@ void DYXCalculator::doCommandMemoryDigit(const Comand& command) {
     updateRegister();
     const unsigned number = registerNumber(command.action);
     if (number < kRegisterKeys) {
-        operateOnRegister(store_, number);
+        storeOrRecall(now_.modifiers.store, number);
     }
-    store_ = kNothingArmed;
-    inputState_ = InputState::lifting;
+    now_.modifiers.store = Store::nothing;
+    now_.inputState = InputState::lifting;
 }
 
 // The forms that name their operation, whatever is armed. They don't reach register 0.
 bool DYXCalculator::doCommandMemoryDirect(const Comand& command) {
     const char prefix = characterOf(command.action, 0);
-    std::int32_t operation = prefix == kDirectRecallPrefix ? kNothingArmed : -1;
-    for (const StoreOperation& row : kStoreOperations) {
-        operation = row.directPrefix == prefix ? row.store : operation;
-    }
-    if (operation < 0) {
+    const auto* const row =
+        std::find_if(kStoreOperations.begin(), kStoreOperations.end(),
+                     [prefix](const StoreOperation& each) { return each.directPrefix == prefix; });
+    const bool stores = row != kStoreOperations.end();
+    if (!stores && prefix != kDirectRecallPrefix) {
         return false;
     }
     updateRegister();
     const unsigned number = registerNumber(command.action);
     if (number > 0 && number < kRegisterKeys) {
-        operateOnRegister(operation, number);
+        storeOrRecall(stores ? row->store : Store::nothing, number);
     }
-    store_ = kNothingArmed;
-    inputState_ = InputState::lifting;
+    now_.modifiers.store = Store::nothing;
+    now_.inputState = InputState::lifting;
     return number < kRegisterKeys;
 }
 

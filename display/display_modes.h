@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 // The thirteen display modes, for output and for input alike. The numbers are stored in the saved
 // state: they are a file format.
@@ -46,6 +47,10 @@ constexpr std::int32_t effectiveMode(std::int32_t number) {
 constexpr bool isIntegerMode(std::int32_t number) {
     return number >= mode::HEX && number <= mode::BIN;
 }
+
+inline constexpr auto kDisplayModeNames =
+    tableOfModes<std::u16string_view>({u"FIX", u"SCI", u"ENG", u"MON", u"FRC", u"CAR", u"HMS",
+                                       u"DMS", u"HEX", u"DEC", u"OCT", u"BIN", u"IRR"});
 
 // The three letters of a mode; "???" for any other number.
 std::u16string displayModeName(std::int32_t number);

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/DYXCalculator.h"
 #include "core/function_tables.h"
 #include "platform/NSEvent.h"
 
@@ -49,33 +50,19 @@ void chooseFromMenu(DYXWindowController& calculator, FuzzInput& input) {
 }
 
 void setAnything(DYXWindowController& calculator, FuzzInput& input) {
-    const NSMenuItem item{.title = {}, .tag = input.take<std::int32_t>(), .action = {}};
-    switch (input.take<std::uint8_t>() % 8) {
-        case 0:
-            calculator.takeOutputModeFrom(item);
-            break;
-        case 1:
-            calculator.takeInputModeFrom(item);
-            break;
-        case 2:
-            calculator.takeAngleModeFrom(item);
-            break;
-        case 3:
-            calculator.takeDecimalModeFrom(item);
-            break;
-        case 4:
-            calculator.setFontMode(item.tag);
-            break;
-        case 5:
-            calculator.setDigitGroupingSeparatorMode(item.tag);
-            break;
-        case 6:
-            calculator.setDigitGroupingDigitsMode(item.tag);
-            break;
-        default:
-            calculator.xDisplay().setDigits(static_cast<std::uint32_t>(item.tag));
-            calculator.syncDisplays();
-    }
+    static constexpr auto kAnyValue = std::to_array<const SettingRow*>(
+        {&settingRow<&Settings::outputDisplayMode>(), &settingRow<&Settings::inputDisplayMode>(),
+         &settingRow<&Settings::angleMode>(), &settingRow<&Settings::decimalMode>(),
+         &settingRow<&Settings::fontMode>(), &settingRow<&Settings::digitGroupingSeparatorMode>(),
+         &settingRow<&Settings::digitGroupingDigitsMode>(), &settingRow<&Settings::digits>()});
+    const auto value = input.take<std::int32_t>();
+    calculator.choose(*kAnyValue.at(input.take<std::uint8_t>() % kAnyValue.size()), value);
+}
+
+void putNumber(DYXCalculator& calculator, FuzzInput& input) {
+    CalculatorState state = calculator.state();
+    state.stack.reg.at(input.take<std::uint8_t>() % 4) = input.takeNumber();
+    calculator.setState(state);
     calculator.updateDisplay();
 }
 
@@ -133,12 +120,11 @@ void act(DYXWindowController& calculator, HeadlessPlatform& platform, FuzzInput&
             setAnything(calculator, input);
             break;
         case 6:
-            calculator.stack().reg.at(input.take<std::uint8_t>() % 4) = input.takeNumber();
-            calculator.updateDisplay();
+            putNumber(calculator.calculator(), input);
             break;
         case 7:
             platform.pasteboard = randomText(input);
-            calculator.paste();
+            calculator.clipboard().paste();
             break;
         case 8:
             changeLocale(calculator, platform, input);
@@ -160,17 +146,18 @@ void act(DYXWindowController& calculator, HeadlessPlatform& platform, FuzzInput&
 }
 
 void checkInvariants(DYXWindowController& calculator) {
-    const auto state = static_cast<int>(calculator.inputState());
-    require(state >= 0 && state <= 2);
-    require(calculator.store() >= 0 && calculator.store() <= 5);
-    const DYXInputDisplay& entry = calculator.xDisplay();
-    require(entry.entry().text.size() <= 32);
-    require(entry.entry().hasFraction || entry.entry().denominatorDigits == 0);
-    checkLine(entry);
-    for (const DYXOutputDisplay* line :
-         {&calculator.yDisplay(), &calculator.zDisplay(), &calculator.tDisplay()}) {
+    const CalculatorState state = calculator.calculator().state();
+    require(state.inputState >= InputState::entering && state.inputState <= InputState::lifting);
+    require(state.modifiers.store >= Store::nothing && state.modifiers.store <= Store::divide);
+    require(state.entry.text.size() <= 32);
+    require(state.entry.hasFraction || state.entry.denominatorDigits == 0);
+    CalculatorState other = state;
+    other.stack.lastX = state.stack.lastX == 0.0 ? 1.0 : -state.stack.lastX;
+    require(state == calculator.calculator().state() && !(state == other));
+    for (const DYXOutputDisplay* line : calculator.lines()) {
         checkLine(*line);
-        require(!line->mantissaField()->stringValue().empty());
+        require(line == calculator.lines().front() ||
+                !line->mantissaField()->stringValue().empty());
     }
     for (const DrawerName name : kDrawerNames) {
         const NSDrawer& drawer = calculator.drawers()[name].record;

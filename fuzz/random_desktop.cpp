@@ -64,7 +64,7 @@ void RandomUser::fillClipboard() {
         clipboard.setText(anyText());
     }
     if (oneIn(2)) {
-        session_->controller.paste();
+        session_->controller.clipboard().paste();
     }
 }
 
@@ -75,25 +75,25 @@ void RandomUser::pasteAndCopy() {
 
 void RandomUser::toggleDrawer() {
     const auto names = kDrawerNames;
-    NSDrawer& drawer = session_->controller.drawers()[anyOf(names)].record;
+    const DrawerName name = anyOf(names);
     for (int count = 1 + below(3); count > 0; --count) {
-        session_->controller.toggleDrawer(drawer);
+        session_->controller.drawers().toggleDrawer(name);
     }
 }
 
 void RandomUser::changeLayout() {
-    constexpr std::array kSwitches{&DYXWindowController::takeShowYZTRegistersFrom,
-                                   &DYXWindowController::takeShowStatusLineFrom,
-                                   &DYXWindowController::takeShowKeyPadFrom};
+    constexpr std::array kSwitches{&WindowGeometry::takeShowYZTRegistersFrom,
+                                   &WindowGeometry::takeShowStatusLineFrom,
+                                   &WindowGeometry::takeShowKeyPadFrom};
     for (int count = 1 + below(2); count > 0; --count) {
-        (session_->controller.*anyOf(kSwitches))();
+        (session_->controller.geometry().*anyOf(kSwitches))();
     }
 }
 
 void RandomUser::useHelp() {
     DYXWindowController& controller = session_->controller;
     if (session_->help.widget() == nullptr || oneIn(4)) {
-        controller.takeToggleHelpWindowFrom();
+        controller.help().takeToggleHelpWindowFrom();
         return;
     }
     static const std::array<QUrl, 7> kLinks{
@@ -103,15 +103,15 @@ void RandomUser::useHelp() {
     const std::vector<Key> keys = controller.views().allKeys();
     switch (below(4)) {
         case 0:
-            controller.showHelpFor(anyOf(keys).button->command());
+            controller.help().showHelpFor(anyOf(keys).button->command());
             break;
         case 1:
             controller.views().help.matrix->performClickAt(
                 below(controller.views().help.matrix->numberOfRows()), 0);
             break;
         case 2:
-            oneIn(2) ? controller.takeMakeHelpTextLargerFrom()
-                     : controller.takeMakeHelpTextSmallerFrom();
+            oneIn(2) ? controller.help().takeMakeHelpTextLargerFrom()
+                     : controller.help().takeMakeHelpTextSmallerFrom();
             break;
         default:
             emit session_->help.widget()->browser().anchorClicked(anyOf(kLinks));

@@ -9,6 +9,7 @@
 
 #include "fuzz_input.h"
 #include "numeric/decimal_text.h"
+#include "core/DYXCalculator.h"
 #include "platform/HeadlessPlatform.h"
 #include "ui/DYXWindowController.h"
 #include "ui/printed_number.h"
@@ -48,12 +49,12 @@ void checkNumber(double number) {
 void checkPaste(DYXWindowController& calculator, HeadlessPlatform& platform,
                 const std::u16string& text) {
     platform.pasteboard = text;
-    calculator.paste();
-    require(!std::isnan(calculator.stack().x()));
-    require(calculator.inputState() != InputState::entering);
-    calculator.copy();
+    calculator.clipboard().paste();
+    require(!std::isnan(calculator.calculator().stack().reg[0]));
+    require(calculator.calculator().inputState() != InputState::entering);
+    calculator.clipboard().copy();
     require(platform.pasteboard && platform.pasteboard->size() < 5000);
-    calculator.paste();
+    calculator.clipboard().paste();
 }
 
 }  // namespace
@@ -72,8 +73,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checkTex(text);
     HeadlessPlatform platform;
     DYXWindowController calculator(platform);
-    calculator.takeOutputModeFrom({.title = {}, .tag = mode, .action = {}});
-    calculator.takeInputModeFrom({.title = {}, .tag = mode, .action = {}});
+    calculator.choose(settingRow<&Settings::outputDisplayMode>(), mode);
+    calculator.choose(settingRow<&Settings::inputDisplayMode>(), mode);
     checkPaste(calculator, platform, text);
     return 0;
 }

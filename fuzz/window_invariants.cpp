@@ -105,7 +105,7 @@ constexpr std::array<Invariant, 12> kInvariants{{
          return !session.controller.layout().keyPadHidden || isTrueOfDrawers(session, isShut);
      }},
     {"no drawer is waited for",
-     [](WindowSession& session) { return !session.controller.drawers().keyPadWaits; }},
+     [](WindowSession& session) { return !session.controller.drawers().keyPadWaits(); }},
     {"body and record have the size of the layout", hasSizeOfLayout},
     {"the mask is what is to be seen",
      [](WindowSession& session) {

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/DYXCalculator.h"
+
 namespace talvex {
 namespace {
 
@@ -49,7 +51,7 @@ bool setDigits(DYXWindowController& calculator, std::string_view word) {
     }
     const std::string_view number = word.substr(kDigits.size());
     std::from_chars(number.data(), number.data() + number.size(), digits);
-    calculator.takeDigitsFrom({.title = {}, .tag = digits, .action = {}});
+    calculator.choose(settingRow<&Settings::digits>(), digits);
     return true;
 }
 
@@ -187,9 +189,9 @@ std::string PageMaker::steps(std::string_view keys) {
         }
         html += count > 0 && count % kStepsInARow == 0 ? "</tr><tr>" : "";
         ++count;
-        press(calculator, step);
+        press(calculator.calculator(), step);
         html += "<td align='center'><p class='press'>" + step.html + "</p>" +
-                stackTable(calculator) + "</td>\n";
+                stackTable(calculator.calculator()) + "</td>\n";
     }
     return html + "</tr></table>";
 }

@@ -4,19 +4,18 @@
 
 namespace talvex {
 
-bool takeModifierFlags(DYXCalculator& calculator, std::uint32_t modifierFlags) {
-    if (calculator.store() > kPlainStore) {
-        return false;
+Modifiers modifiersFor(std::uint32_t modifierFlags, const Modifiers& present) {
+    if (present.store != Store::nothing && present.store != Store::plain) {
+        return present;
     }
     const bool shift = (modifierFlags & NSShiftKeyMask) != 0;
     const bool control = (modifierFlags & NSControlKeyMask) != 0;
     const bool option = (modifierFlags & NSAlternateKeyMask) != 0;
     const bool command = (modifierFlags & NSCommandKeyMask) != 0;
-    calculator.inverse = shift && !option && !command;
-    calculator.hyperbolic = control && !option && !command;
-    calculator.setRecall(option && !control && !command);
-    calculator.setStore(control && option && !command ? kPlainStore : kNothingArmed);
-    return true;
+    return {.inverse = shift && !option && !command,
+            .hyperbolic = control && !option && !command,
+            .recall = option && !control && !command,
+            .store = control && option && !command ? Store::plain : Store::nothing};
 }
 
 }  // namespace talvex

@@ -2,14 +2,14 @@
 
 #include <cstdint>
 
-#include "core/DYXCalculator.h"
+#include "core/CalculatorState.h"
 
 namespace talvex {
 
-// Rebuilds the modifiers from the modifier keys that are held (bits of `NSModifierFlags`), unless a
-// store with arithmetic is armed, which stays through any movement of these keys. Shift is inverse,
-// Control hyperbolic, Option recall, Control with Option store; Command puts all of them out.
-// Returns whether the modifiers were rebuilt.
-bool takeModifierFlags(DYXCalculator& calculator, std::uint32_t modifierFlags);
+// The modifiers that follow from the modifier keys that are held (bits of `NSModifierFlags`): Shift
+// is inverse, Control hyperbolic, Option recall, Control with Option store; Command puts all of
+// them out. A store with arithmetic stays armed through any movement of these keys, and the other
+// modifiers with it.
+[[nodiscard]] Modifiers modifiersFor(std::uint32_t modifierFlags, const Modifiers& present);
 
 }  // namespace talvex

@@ -10,7 +10,7 @@
 namespace talvex {
 
 Stage::Stage() : controller_(platform_) {
-    controller_.takeWindowSizingAnimationFrom({.title = {}, .action = {}, .state = 1});
+    controller_.choose(settingRow<&Settings::animateWindow>(), 0);
     window_ = std::make_unique<CalculatorWindow>(controller_);
     window_->show();
     settle();
@@ -23,12 +23,8 @@ void Stage::type(std::u16string_view keys) {
 }
 
 void Stage::open(DrawerName name) {
-    controller_.toggleDrawer(controller_.drawers()[name].record);
+    controller_.drawers().toggleDrawer(name);
     settle();
-}
-
-void Stage::choose(void (DYXWindowController::*action)(const NSMenuItem&), int tag) {
-    (controller_.*action)({.title = {}, .tag = tag, .action = {}});
 }
 
 void Stage::settle() {

@@ -20,7 +20,6 @@ class Stage {
     // Keys as they are typed on the keyboard, one character each; "\r" is ENTER.
     void type(std::u16string_view keys);
     void open(DrawerName name);
-    void choose(void (DYXWindowController::*action)(const NSMenuItem&), int tag);
     // Whatever moves has come to rest; then the window with its drawers, on a transparent ground.
     [[nodiscard]] QImage picture();
 

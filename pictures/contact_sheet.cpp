@@ -68,14 +68,14 @@ Picture pictureOf(const WindowLayout& layout) {
     fillStack(stage);
     DYXWindowController& controller = stage.controller();
     if (layout.displayViewMode == 1) {
-        controller.takeShowYZTRegistersFrom();
+        controller.geometry().takeShowYZTRegistersFrom();
     }
     if (layout.showStatusLine) {
-        controller.takeShowStatusLineFrom();
+        controller.geometry().takeShowStatusLineFrom();
         controller.views().keyPad.button(command("unit", "GSIN")).pointerMoved(NSPoint{1.0, 1.0});
     }
     if (layout.keyPadHidden) {
-        controller.takeShowKeyPadFrom();
+        controller.geometry().takeShowKeyPadFrom();
     }
     return {QStringLiteral("%1%2%3").arg(layout.keyPadHidden ? "display" : "key pad",
                                          layout.displayViewMode == 1 ? ", four lines" : "",
@@ -115,8 +115,8 @@ std::vector<Picture> drawers() {
     }
     Stage all;
     fillStack(all);
-    all.controller().takeShowYZTRegistersFrom();
-    all.controller().takeShowStatusLineFrom();
+    all.controller().geometry().takeShowYZTRegistersFrom();
+    all.controller().geometry().takeShowStatusLineFrom();
     for (const OpenDrawer& drawer : kDrawers) {
         all.open(drawer.name);
     }
@@ -137,9 +137,9 @@ std::vector<Picture> modes() {
     for (std::int32_t mode = 0; mode < mode::count; ++mode) {
         Stage stage;
         stage.type(u"10r\r1.5\r3\r1234.5678\r");
-        stage.controller().takeShowYZTRegistersFrom();
-        stage.controller().takeShowKeyPadFrom();
-        stage.choose(&DYXWindowController::takeInputModeFrom, mode);
+        stage.controller().geometry().takeShowYZTRegistersFrom();
+        stage.controller().geometry().takeShowKeyPadFrom();
+        stage.controller().choose(settingRow<&Settings::inputDisplayMode>(), mode);
         pictures.push_back({toQString(displayModeName(mode)), stage.picture()});
     }
     return pictures;

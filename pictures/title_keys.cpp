@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <limits>
 
+#include "core/DYXCalculator.h"
 #include "display/display_modes.h"
 #include "numeric/DYXnan.h"
 #include "platform/HeadlessPlatform.h"
@@ -18,9 +19,10 @@ namespace talvex {
 namespace {
 
 void show(DYXWindowController& controller, double number) {
-    controller.setInputState(InputState::replacing);
-    controller.stack().x() = number;
-    controller.updateDisplay();
+    CalculatorState state;
+    state.stack.x() = number;
+    controller.calculator().setState(state);
+    controller.calculator().updateDisplay();
 }
 
 // All words that a line can show.
@@ -33,19 +35,19 @@ void showWords(DYXWindowController& controller) {
         }
     }
     for (const int mode : {mode::FRC, mode::HEX}) {
-        controller.takeInputModeFrom({.title = {}, .tag = mode, .action = {}});
+        controller.choose(settingRow<&Settings::inputDisplayMode>(), mode);
         for (const double number : {kLarge, 0.5, -0.5, -kLarge, M_PI}) {
             show(controller, number);
         }
     }
-    controller.takeInputModeFrom({.title = {}, .tag = mode::FIX, .action = {}});
-    controller.doCommand(commandFromString(u"dataN001"));
-    controller.doCommand(commandFromString(u"dataEEX "));
+    controller.choose(settingRow<&Settings::inputDisplayMode>(), mode::FIX);
+    controller.doCommand(digitCommand('1'));
+    controller.doCommand(command("data", "EEX "));
 }
 
 void pasteInVain(DYXWindowController& controller, HeadlessPlatform& platform) {
     platform.pasteboardAnswersAtOnce = false;
-    controller.paste();
+    controller.clipboard().paste();
     platform.answerPasteboardRequest({.outcome = PasteboardOutcome::late, .text = {}});
 }
 
@@ -63,16 +65,17 @@ int main(int argc, char** argv) {
     showWords(controller);
     pasteInVain(controller, platform);
     for (const int mode : {8, 0}) {  // the letter keys have titles of their own in HEX
-        controller.takeInputModeFrom({.title = {}, .tag = mode, .action = {}});
+        controller.choose(settingRow<&Settings::inputDisplayMode>(), mode);
     }
     for (auto change :
-         {&DYXWindowController::takeShowYZTRegistersFrom,
-          &DYXWindowController::takeShowStatusLineFrom, &DYXWindowController::takeShowKeyPadFrom,
-          &DYXWindowController::takeToggleHelpWindowFrom}) {
+         {&WindowGeometry::takeShowYZTRegistersFrom, &WindowGeometry::takeShowStatusLineFrom,
+          &WindowGeometry::takeShowKeyPadFrom}) {
         validateMenu(controller.views().menu);
-        (controller.*change)();
+        (controller.geometry().*change)();
     }
-    controller.takeLockOutputAndInputFrom(NSMenuItem{.title = {}, .action = {}});
+    validateMenu(controller.views().menu);
+    controller.help().takeToggleHelpWindowFrom();
+    controller.choose(settingRow<&Settings::unlockInputAndOutputModes>(), 1);
     validateMenu(controller.views().menu);
     controller.saveDocument();  // fails without a home folder, and says so
     for (const std::u16string& title : platform.titlesAskedFor) {

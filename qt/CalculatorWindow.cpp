@@ -180,7 +180,7 @@ void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
         NSMenuItem item;
         item.title = helpOn_ + u" \u201C" + key->record().accessibilityLabel() + u"\u201D";
         item.action = [this, command = key->record().command()](const NSMenuItem&) {
-            controller_.showHelpFor(command);
+            controller_.help().showHelpFor(command);
         };
         menu.items.insert(menu.items.begin(), {std::move(item), NSMenuItem{}});
     }

@@ -10,12 +10,11 @@ namespace talvex {
 DisplayWidget::DisplayWidget(DYXWindowController& controller, QWidget* parent)
     : QWidget(parent), record_(*controller.views().displayView) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    lines_ = {new LineWidget(controller.tDisplay(), record_, this),
-              new LineWidget(controller.zDisplay(), record_, this),
-              new LineWidget(controller.yDisplay(), record_, this),
-              new LineWidget(controller.xDisplay(), record_, this)};
+    const auto [x, y, z, t] = controller.lines();
+    lines_ = {new LineWidget(*t, record_, this), new LineWidget(*z, record_, this),
+              new LineWidget(*y, record_, this), new LineWidget(*x, record_, this)};
     WindowViews& views = controller.views();
-    new StatusWidget(*controller.xDisplay().statusField(), views, this);
+    new StatusWidget(*x->statusField(), views, this);
     for (NSPopUpButton* popUp :
          {views.angleModePopUp.get(), views.inputModePopUp.get(), views.outputModePopUp.get()}) {
         new PopUpWidget(*popUp, this);

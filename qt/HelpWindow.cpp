@@ -145,16 +145,16 @@ void HelpWidget::comeIntoSight() {
 }
 
 void HelpWidget::addShortcuts() {
-    const auto add = [this](const QKeySequence& key, void (DYXWindowController::*action)()) {
+    const auto add = [this](const QKeySequence& key, void (HelpController::*action)()) {
         connect(new QShortcut(key, this), &QShortcut::activated, this,
-                [&controller = controller_, action] { (controller.*action)(); });
+                [&help = controller_.help(), action] { (help.*action)(); });
     };
-    add(QKeySequence::ZoomIn, &DYXWindowController::takeMakeHelpTextLargerFrom);
-    add(Qt::CTRL | Qt::Key_Equal, &DYXWindowController::takeMakeHelpTextLargerFrom);
-    add(QKeySequence::ZoomOut, &DYXWindowController::takeMakeHelpTextSmallerFrom);
-    add(Qt::CTRL | Qt::Key_0, &DYXWindowController::takeMakeHelpTextNormalFrom);
-    add(Qt::Key_F1, &DYXWindowController::takeToggleHelpWindowFrom);
-    add(Qt::Key_Escape, &DYXWindowController::takeToggleHelpWindowFrom);
+    add(QKeySequence::ZoomIn, &HelpController::takeMakeHelpTextLargerFrom);
+    add(Qt::CTRL | Qt::Key_Equal, &HelpController::takeMakeHelpTextLargerFrom);
+    add(QKeySequence::ZoomOut, &HelpController::takeMakeHelpTextSmallerFrom);
+    add(Qt::CTRL | Qt::Key_0, &HelpController::takeMakeHelpTextNormalFrom);
+    add(Qt::Key_F1, &HelpController::takeToggleHelpWindowFrom);
+    add(Qt::Key_Escape, &HelpController::takeToggleHelpWindowFrom);
 }
 
 void HelpWidget::followRecord() {
@@ -186,9 +186,9 @@ void HelpWidget::closeEvent(QCloseEvent* event) {
 void HelpWidget::wheelEvent(QWheelEvent* event) {
     const int way = event->angleDelta().y();
     if (way > 0) {
-        controller_.takeMakeHelpTextLargerFrom();
+        controller_.help().takeMakeHelpTextLargerFrom();
     } else if (way < 0) {
-        controller_.takeMakeHelpTextSmallerFrom();
+        controller_.help().takeMakeHelpTextSmallerFrom();
     }
 }
 

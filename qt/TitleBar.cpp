@@ -88,7 +88,7 @@ TitleBar::TitleBar(DYXWindowController& controller, QWidget* parent)
     new TitleBarButton(*controller.views().xyztButton, this);
     new TitleBarButton(*controller.views().statusButton, this);
     connect(keyPad_, &QAbstractButton::clicked, this,
-            [&controller] { controller.takeShowKeyPadFrom(); });
+            [&controller] { controller.geometry().takeShowKeyPadFrom(); });
     connect(menuButton_, &QAbstractButton::pressed, this,
             [this, &controller] { pullDownMenu(controller.views().menu, *menuButton_); });
     connect(close_, &QAbstractButton::clicked, this, [this] { this->window()->close(); });

@@ -5,92 +5,59 @@
 #include <string>
 
 #include "state/DYXDataExtensions.h"
+#include "state/settings_table.h"
 
 namespace talvex {
 namespace {
 
 using Dictionary = PropertyDictionary;
 
-// A key and its value where a file lacks it. The older key, if there is one, counts ahead of the
-// newer or behind it.
-enum class Older { none, first, second };
+constexpr OlderKey kOldMemoryDrawer{.key = "memKeysDrawerState"};
+constexpr OlderKey kOldMemoryWasOpen{.key = "memKeysWasOpen"};
+constexpr OlderKey kOldBigWindow{.key = "windowIsBig", .isOpposite = true};
+constexpr OlderKey kOldStatusLine{.key = "showStatusLines", .order = OlderKey::Order::behind};
 
-struct IntegerKey {
-    std::string_view key;
-    std::int32_t SavedState::*field;
-    std::int32_t missing = 0;
-    std::string_view olderKey = {};
-};
+constexpr auto kLayout = std::to_array<SavedRow<WindowLayout>>({
+    saved<&WindowLayout::keyPadHidden>("keyPadHidden").orOlder(kOldBigWindow),
+    saved<&WindowLayout::displayViewMode>("displayViewMode"),
+    saved<&WindowLayout::showStatusLine>("showStatusLine").orIfMissing(1).orOlder(kOldStatusLine),
+});
 
-constexpr std::array<IntegerKey, 17> kIntegers{{
-    {.key = "outputDisplayMode", .field = &SavedState::outputDisplayMode},
-    {.key = "inputDisplayMode", .field = &SavedState::inputDisplayMode},
-    {.key = "inputState", .field = &SavedState::inputState, .missing = 2},
-    {.key = "angleMode", .field = &SavedState::angleMode},
-    {.key = "digits", .field = &SavedState::digits, .missing = 4},
-    {.key = "helpTag", .field = &SavedState::helpTag},
-    {.key = "displayViewMode", .field = &SavedState::displayViewMode},
-    {.key = "decimalMode", .field = &SavedState::decimalMode},
-    {.key = "digitGroupingSeparatorMode",
-     .field = &SavedState::digitGroupingSeparatorMode,
-     .missing = 1},
-    {.key = "digitGroupingDigitsMode", .field = &SavedState::digitGroupingDigitsMode},
-    {.key = "fontMode", .field = &SavedState::fontMode},
-    {.key = "helpViewTextSize", .field = &SavedState::helpViewTextSize},
-    {.key = "memoryDrawerState",
-     .field = &SavedState::memoryDrawerState,
-     .olderKey = "memKeysDrawerState"},
-    {.key = "constantsDrawerState", .field = &SavedState::constantsDrawerState},
-    {.key = "conversionDrawerState", .field = &SavedState::conversionDrawerState},
-    {.key = "functionsDrawerState", .field = &SavedState::functionsDrawerState},
-    {.key = "conversionTabSelection", .field = &SavedState::conversionTabSelection},
-}};
+constexpr auto kWindow = std::to_array<SavedRow<WindowState>>({
+    saved<&WindowState::memoryDrawerState>("memoryDrawerState").orOlder(kOldMemoryDrawer),
+    saved<&WindowState::constantsDrawerState>("constantsDrawerState"),
+    saved<&WindowState::conversionDrawerState>("conversionDrawerState"),
+    saved<&WindowState::functionsDrawerState>("functionsDrawerState"),
+    saved<&WindowState::memoryWasOpen>("memoryWasOpen").orOlder(kOldMemoryWasOpen),
+    saved<&WindowState::constantsWasOpen>("constantsWasOpen"),
+    saved<&WindowState::conversionWasOpen>("conversionWasOpen"),
+    saved<&WindowState::functionsWasOpen>("functionsWasOpen"),
+    saved<&WindowState::conversionTabSelection>("conversionTabSelection"),
+    saved<&WindowState::helpPanelVisible>("helpPanelVisible"),
+    saved<&WindowState::helpTag>("helpTag"),
+    saved<&WindowState::helpViewTextSize>("helpViewTextSize"),
+});
 
-struct BooleanKey {
-    std::string_view key;
-    bool SavedState::*field;
-    bool missing = false;
-    std::string_view olderKey = {};
-    Older older = Older::none;
-    bool olderIsOpposite = false;
-};
+constexpr auto itself = [](const auto& row) { return row; };
+static_assert(hasARowForEachMember<WindowLayout>(kLayout, itself));
+static_assert(hasARowForEachMember<WindowState>(kWindow, itself));
 
-constexpr std::array<BooleanKey, 16> kBooleans{{
-    {.key = "memoryWasOpen",
-     .field = &SavedState::memoryWasOpen,
-     .olderKey = "memKeysWasOpen",
-     .older = Older::first},
-    {.key = "constantsWasOpen", .field = &SavedState::constantsWasOpen},
-    {.key = "conversionWasOpen", .field = &SavedState::conversionWasOpen},
-    {.key = "functionsWasOpen", .field = &SavedState::functionsWasOpen},
-    {.key = "animateWindow", .field = &SavedState::animateWindow, .missing = true},
-    {.key = "useHPStylePowerAndLogs",
-     .field = &SavedState::useHPStylePowerAndLogs,
-     .missing = true},
-    {.key = "reduceCarpentryFractions",
-     .field = &SavedState::reduceCarpentryFractions,
-     .missing = true},
-    {.key = "unlockInputAndOutputModes", .field = &SavedState::unlockInputAndOutputModes},
-    {.key = "displayIrrationals", .field = &SavedState::displayIrrationals},
-    {.key = "helpPanelVisible", .field = &SavedState::helpPanelVisible, .missing = true},
-    {.key = "keyPadHidden",
-     .field = &SavedState::keyPadHidden,
-     .olderKey = "windowIsBig",
-     .older = Older::first,
-     .olderIsOpposite = true},
-    {.key = "registerLabelsHidden", .field = &SavedState::registerLabelsHidden},
-    {.key = "autoHideXLabel", .field = &SavedState::autoHideXLabel, .missing = true},
-    {.key = "statusLinesEnabled", .field = &SavedState::statusLinesEnabled, .missing = true},
-    {.key = "showStatusLine",
-     .field = &SavedState::showStatusLine,
-     .missing = true,
-     .olderKey = "showStatusLines",
-     .older = Older::second},
-    // True, not false as without a file.
-    {.key = "includeDigitGroupingWhenCopying",
-     .field = &SavedState::includeDigitGroupingWhenCopying,
-     .missing = true},
-}};
+constexpr auto kInputState = saved<&SavedState::inputState>("inputState");
+
+// Calls `visit` with each row and with what it is a row of.
+template <class State, class Visit>
+void forEachRow(State& state, Visit visit) {
+    visit(kInputState, state);
+    for (const SettingRow& row : kSettings) {
+        visit(row.saved, state.settings);
+    }
+    for (const auto& row : kLayout) {
+        visit(row, state.layout);
+    }
+    for (const auto& row : kWindow) {
+        visit(row, state.window);
+    }
+}
 
 const PropertyValue* find(const Dictionary& dictionary, std::string_view key) {
     const auto entry = dictionary.find(key);
@@ -102,20 +69,22 @@ double numberAt(const Dictionary& dictionary, const std::string& key) {
     return value == nullptr ? 0.0 : numberOf(*value);
 }
 
-std::int32_t integerAt(const Dictionary& dictionary, const IntegerKey& row) {
-    const PropertyValue* value = row.olderKey.empty() ? nullptr : find(dictionary, row.olderKey);
-    value = value == nullptr ? find(dictionary, row.key) : value;
-    return value == nullptr ? row.missing : integerOf(*value);
-}
-
-bool booleanAt(const Dictionary& dictionary, const BooleanKey& row) {
+// The value of a row, from whichever of its keys counts.
+template <class Owner>
+std::int32_t valueAt(const Dictionary& dictionary, const SavedRow<Owner>& row) {
     const PropertyValue* const newer = find(dictionary, row.key);
     const PropertyValue* const older =
-        row.older == Older::none ? nullptr : find(dictionary, row.olderKey);
-    if (older != nullptr && (row.older == Older::first || newer == nullptr)) {
-        return isTrue(*older) != row.olderIsOpposite;
+        row.older.key.empty() ? nullptr : find(dictionary, row.older.key);
+    const bool takesOlder =
+        older != nullptr && (row.older.order == OlderKey::Order::ahead || newer == nullptr);
+    const PropertyValue* const value = takesOlder ? older : newer;
+    if (value == nullptr) {
+        return row.missing.value_or(row.get(Owner()));
     }
-    return newer == nullptr ? row.missing : isTrue(*newer);
+    if (row.isSwitch) {
+        return isTrue(*value) != (takesOlder && row.older.isOpposite) ? 1 : 0;
+    }
+    return integerOf(*value);
 }
 
 std::optional<NSRect> rectAt(const Dictionary& dictionary, std::string_view key) {
@@ -161,12 +130,9 @@ SavedState savedStateFrom(const Dictionary& dictionary) {
         state.mem.at(index) = numberAt(dictionary, registerKey("mem", index));
     }
     state.lastX = numberAt(dictionary, "lastX");
-    for (const IntegerKey& row : kIntegers) {
-        state.*row.field = integerAt(dictionary, row);
-    }
-    for (const BooleanKey& row : kBooleans) {
-        state.*row.field = booleanAt(dictionary, row);
-    }
+    forEachRow(state, [&dictionary](const auto& row, auto& owner) {
+        row.set(owner, valueAt(dictionary, row));
+    });
     state.calculatorFrame = rectAt(dictionary, "calculatorFrame");
     if (!state.calculatorFrame) {
         state.calculatorFrame = oldFrame(dictionary);
@@ -190,12 +156,11 @@ PropertyDictionary propertiesOf(const SavedState& state) {
         putNumber(registerKey("mem", index), state.mem.at(index));
     }
     putNumber("lastX", state.lastX);
-    for (const IntegerKey& row : kIntegers) {
-        dictionary.emplace(row.key, std::int64_t{state.*row.field});
-    }
-    for (const BooleanKey& row : kBooleans) {
-        dictionary.emplace(row.key, state.*row.field);
-    }
+    forEachRow(state, [&dictionary](const auto& row, const auto& owner) {
+        const std::int32_t value = row.get(owner);
+        dictionary.emplace(
+            row.key, row.isSwitch ? PropertyValue(value != 0) : PropertyValue(std::int64_t{value}));
+    });
     const auto putFrame = [&](const std::string& key, const std::optional<NSRect>& frame) {
         dictionary.emplace(key, dataOf(DYXDataExtensions::dataWithRect(frame.value_or(NSRect{}))));
     };

@@ -10,6 +10,7 @@
 #include <string>
 #include <utility>
 
+#include "edit_state.h"
 #include "numeric/DYXnan.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/NSEvent.h"
@@ -23,9 +24,7 @@ using Text = std::u16string;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
-
-class Clipboard : public testing::Test {
+class Pasteboard : public testing::Test {
   protected:
     void type(std::u16string_view keys) {
         for (const char16_t key : keys) {
@@ -33,23 +32,22 @@ class Clipboard : public testing::Test {
         }
     }
     Text copied(double x) {
-        controller.setInputState(InputState::lifting);
-        controller.stack().x() = x;
-        controller.updateDisplay();
-        controller.copy();
+        setX(controller.calculator(), x);
+        controller.calculator().updateDisplay();
+        controller.clipboard().copy();
         return platform.pasteboard.value_or(u"nothing");
     }
     double pasted(const Text& text) {
         platform.pasteboard = text;
-        controller.paste();
-        return controller.stack().x();
+        controller.clipboard().paste();
+        return controller.calculator().stack().x();
     }
 
     HeadlessPlatform platform;
     DYXWindowController controller{platform};
 };
 
-TEST_F(Clipboard, CopiesWhatTheLineShowsInEveryMode) {
+TEST_F(Pasteboard, CopiesWhatTheLineShowsInEveryMode) {
     const struct {
         int mode;
         double number;
@@ -73,73 +71,78 @@ TEST_F(Clipboard, CopiesWhatTheLineShowsInEveryMode) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.mode);
-        controller.takeInputModeFrom(itemOf(row.mode));
+        controller.choose(settingRow<&Settings::inputDisplayMode>(), row.mode);
         EXPECT_EQ(copied(row.number), row.plain);
-        controller.takeIncludeDigitGroupingWhenCopyingFrom(itemOf(0));
+        controller.choose(settingRow<&Settings::includeDigitGroupingWhenCopying>(), 1);
         EXPECT_EQ(copied(row.number), row.grouped);
-        controller.takeIncludeDigitGroupingWhenCopyingFrom(itemOf(0));
-        EXPECT_EQ(controller.inputState(), InputState::lifting);
+        controller.choose(settingRow<&Settings::includeDigitGroupingWhenCopying>(), 0);
+        EXPECT_EQ(controller.calculator().inputState(), InputState::lifting);
     }
 }
 
-TEST_F(Clipboard, BringsNumbersBackInBothLocales) {
+TEST_F(Pasteboard, BringsNumbersBackInBothLocales) {
     for (const int decimalMode : {1, 2}) {
-        controller.takeDecimalModeFrom(itemOf(decimalMode));
+        controller.choose(settingRow<&Settings::decimalMode>(), decimalMode);
         for (const int mode : {0, 1, 2, 3}) {
-            controller.takeInputModeFrom(itemOf(mode));
+            controller.choose(settingRow<&Settings::inputDisplayMode>(), mode);
             EXPECT_EQ(pasted(copied(-12.75)), -12.75) << mode;
         }
     }
 }
 
-TEST_F(Clipboard, CopiesALiveEntryAsItIsEchoed) {
+TEST_F(Pasteboard, CopiesALiveEntryAsItIsEchoed) {
     const std::pair<std::u16string_view, Text> rows[]{{u"\t", u"1e00"}, {u"1.5\t5", u"1.5e 05"}};
     for (const auto& [keys, text] : rows) {
-        controller.setInputState(InputState::lifting);
+        setX(controller.calculator(), 0.0);
         type(keys);
-        controller.copy();
+        controller.clipboard().copy();
         EXPECT_EQ(platform.pasteboard, text);
-        EXPECT_EQ(controller.inputState(), InputState::entering);
+        EXPECT_EQ(controller.calculator().inputState(), InputState::entering);
     }
     EXPECT_EQ(pasted(u"1.5e 05"), 1.5);
 }
 
-TEST_F(Clipboard, PastesOntoTheStackByTheState) {
-    controller.stack() = {.reg = {1, 2, 3, 4}, .lastX = 9};
+TEST_F(Pasteboard, PastesOntoTheStackByTheState) {
+    edit(controller.calculator(), [](CalculatorState& state) {
+        state.stack = {.reg = {1, 2, 3, 4}, .lastX = 9};
+    });
     EXPECT_EQ(pasted(u"5"), 5);
-    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{5, 1, 2, 3}));
-    EXPECT_EQ(controller.stack().lastX, 1);
-    EXPECT_EQ(controller.inputState(), InputState::replacing);
+    EXPECT_EQ(controller.calculator().stack().reg, (std::array<double, 4>{5, 1, 2, 3}));
+    EXPECT_EQ(controller.calculator().stack().lastX, 1);
+    EXPECT_EQ(controller.calculator().inputState(), InputState::replacing);
     type(u"7");
     EXPECT_EQ(pasted(u"8"), 8);
-    EXPECT_EQ(controller.inputState(), InputState::lifting);
+    EXPECT_EQ(controller.calculator().inputState(), InputState::lifting);
     platform.pasteboard.reset();
-    controller.paste();
-    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{8, 1, 2, 3}));
+    controller.clipboard().paste();
+    EXPECT_EQ(controller.calculator().stack().reg, (std::array<double, 4>{8, 1, 2, 3}));
 }
 
-TEST_F(Clipboard, WaitsForALateTextUntilTheUserGoesOn) {
-    const auto status = [&] { return controller.xDisplay().statusField()->stringValue(); };
+TEST_F(Pasteboard, WaitsForALateTextUntilTheUserGoesOn) {
+    const auto status = [&] {
+        return controller.calculator().xDisplay().statusField()->stringValue();
+    };
     const PasteboardText nine{.outcome = PasteboardOutcome::text, .text = u"9"};
     platform.pasteboardAnswersAtOnce = false;
     type(u"5");
-    controller.paste();
-    controller.paste();
+    controller.clipboard().paste();
+    controller.clipboard().paste();
     EXPECT_EQ(status(), u"entering significand\u2026");
     platform.answerPasteboardRequest(nine);
-    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{9, 0, 0, 0})) << "one number for two";
-    controller.paste();
+    EXPECT_EQ(controller.calculator().stack().reg, (std::array<double, 4>{9, 0, 0, 0}))
+        << "one number for two";
+    controller.clipboard().paste();
     platform.answerPasteboardRequest({.outcome = PasteboardOutcome::late, .text = {}});
     EXPECT_EQ(status(), u"paste: no answer");
     EXPECT_EQ(platform.beeps, 1);
-    controller.paste();
+    controller.clipboard().paste();
     type(u"7");
     platform.answerPasteboardRequest(nine);
     EXPECT_EQ(status(), u"paste: no answer");
     EXPECT_EQ(platform.beeps, 2);
     type(u"\r");
     EXPECT_EQ(status(), u"");
-    EXPECT_EQ(controller.stack().reg, (std::array<double, 4>{7, 7, 9, 0}));
+    EXPECT_EQ(controller.calculator().stack().reg, (std::array<double, 4>{7, 7, 9, 0}));
 }
 
 TEST(InternationalDoubleValue, ReadsTheNumberThatATextStartsWith) {
@@ -162,7 +165,7 @@ TEST(InternationalDoubleValue, ReadsTheNumberThatATextStartsWith) {
 }
 
 // Each item that can be chosen does something, and shows a setting where it stands for one.
-TEST_F(Clipboard, TheMenuShowsAndChangesEverySetting) {
+TEST_F(Pasteboard, TheMenuShowsAndChangesEverySetting) {
     std::multiset<Text> shortcuts;
     const std::function<void(NSMenu&)> visit = [&](NSMenu& menu) {
         for (NSMenuItem& item : menu.items) {

@@ -31,17 +31,16 @@ TEST(CommandString, ItsLengthSaysWhatItHolds) {
 
 // The modifiers that are on, and which store is armed.
 std::string modifiersOf(const DYXCalculator& calculator) {
-    return std::string(calculator.inverse ? "I" : "") + (calculator.hyperbolic ? "H" : "") +
-           (calculator.recall() ? "R" : "") + std::to_string(calculator.store());
+    const Modifiers& modifiers = calculator.modifiers();
+    return std::string(modifiers.inverse ? "I" : "") + (modifiers.hyperbolic ? "H" : "") +
+           (modifiers.recall ? "R" : "") + std::to_string(static_cast<int>(modifiers.store));
 }
 
 TEST(KeyPress, LeavesOfTheModifiersWhatItsKindLeaves) {
     KeyScript script;
     DYXCalculator& calculator = script.calculator;
     const auto press = [&](const std::u16string& command, bool isRecallArmed) {
-        calculator.inverse = calculator.hyperbolic = true;
-        calculator.setRecall(isRecallArmed);
-        calculator.setStore(2);
+        calculator.setModifiers({true, true, isRecallArmed, Store::add});
         calculator.press(commandFromString(command));
         return modifiersOf(calculator);
     };
@@ -69,11 +68,11 @@ TEST(Memory, StoresRecallsAndCalculates) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.keys);
         KeyScript script;
-        script.calculator.mem()[3] = 2;
+        edit(script.calculator, [](CalculatorState& state) { state.mem[3] = 2; });
         script.press(row.keys);
         EXPECT_EQ(script.calculator.mem()[3], row.register3);
         EXPECT_EQ(script.x(), row.x);
-        EXPECT_EQ(script.calculator.store(), kNothingArmed);
+        EXPECT_EQ(script.calculator.modifiers().store, Store::nothing);
     }
 }
 
@@ -89,7 +88,7 @@ TEST(Memory, KeysReachTwentyRegistersAndDirectFormsNineteen) {
                 expected.at(number) = 5;
             }
             EXPECT_EQ(script.calculator.mem(), expected);
-            EXPECT_EQ(script.calculator.store(), 0);
+            EXPECT_EQ(script.calculator.modifiers(), Modifiers());
         }
     }
 }
@@ -121,7 +120,7 @@ TEST(Functions, TheKeysOfPowersFollowTheOrderOfOperands) {
     for (const auto& row : rows) {
         for (const bool isBaseInY : {true, false}) {
             KeyScript script;
-            script.calculator.useHPStylePowerAndLogs = isBaseInY;
+            script.calculator.setUseHPStylePowerAndLogs(isBaseInY);
             script.press(row.keys);
             EXPECT_EQ(script.x(), isBaseInY ? row.baseInY : row.baseInX) << row.keys;
         }

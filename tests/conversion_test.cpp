@@ -152,7 +152,7 @@ TEST(UnitKeys, FollowAnArmedStoreOrRecall) {
             }
         }
         script.setStack(7, 0, 0, 0);
-        script.calculator.converted().fill(3);
+        edit(script.calculator, [](CalculatorState& state) { state.converted.fill(3); });
         script.run("convlen cm  ");
         EXPECT_EQ(script.x(), row.reads ? 300 : 7);
         EXPECT_EQ(script.calculator.converted()[1], row.reads ? 3 : 0.07);
@@ -161,12 +161,12 @@ TEST(UnitKeys, FollowAnArmedStoreOrRecall) {
     KeyScript script;
     script.setStack(7, 0, 0, 0);
     script.run("convlen m   ");
-    script.calculator.stack().x() = 9;
-    script.calculator.setStore(1);
+    setX(script.calculator, 9);
+    script.calculator.setModifiers({.store = Store::plain});
     script.run("convlen m   ");
     EXPECT_EQ(script.calculator.converted()[1], 9);
-    script.calculator.stack().x() = 11;
-    script.calculator.setStore(2);
+    setX(script.calculator, 11);
+    script.calculator.setModifiers({.store = Store::add});
     script.run("convlen m   ");
     EXPECT_EQ(script.x(), 9);
 }

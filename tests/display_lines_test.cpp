@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "edit_state.h"
 #include "numeric/DYXnan.h"
 #include "platform/HeadlessPlatform.h"
 #include "same_bits.h"
@@ -16,8 +17,6 @@ namespace talvex {
 namespace {
 
 using Text = std::u16string;
-
-NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
 
 Text mantissaOf(const DYXOutputDisplay& line) { return line.mantissaField()->stringValue(); }
 
@@ -56,11 +55,13 @@ TEST(CopiedLine, IsPlainAndStandsAboveItsOriginal) {
 class WindowLines : public testing::Test {
   protected:
     Text shown(double x) {
-        controller.stack().reg.fill(x);
-        controller.updateDisplay();
-        EXPECT_EQ(mantissaOf(controller.yDisplay()), mantissaOf(controller.xDisplay()));
-        EXPECT_EQ(mantissaOf(controller.tDisplay()), mantissaOf(controller.xDisplay()));
-        return mantissaOf(controller.xDisplay());
+        edit(controller.calculator(), [x](CalculatorState& state) { state.stack.reg.fill(x); });
+        controller.calculator().updateDisplay();
+        EXPECT_EQ(mantissaOf(controller.calculator().yDisplay()),
+                  mantissaOf(controller.calculator().xDisplay()));
+        EXPECT_EQ(mantissaOf(controller.calculator().tDisplay()),
+                  mantissaOf(controller.calculator().xDisplay()));
+        return mantissaOf(controller.calculator().xDisplay());
     }
 
     HeadlessPlatform platform;
@@ -69,44 +70,45 @@ class WindowLines : public testing::Test {
 
 TEST_F(WindowLines, NeverGroupWithTheDecimalSeparator) {
     EXPECT_EQ(shown(1234567.891), u"1,234,567.891\u20090");
-    EXPECT_EQ(controller.cDisplay().settings().integerGroupingSeparator, u"");
-    controller.setDecimalMode(2);
+    EXPECT_EQ(controller.calculator().cDisplay().settings().integerGroupingSeparator, u"");
+    controller.choose(settingRow<&Settings::decimalMode>(), 2);
     EXPECT_EQ(shown(1234567.891), u"1.234.567,891\u20090");
-    controller.setDecimalMode(1);
+    controller.choose(settingRow<&Settings::decimalMode>(), 1);
     EXPECT_EQ(shown(1234567.891), u"1,234,567.891\u20090");
-    controller.setDecimalMode(0);
+    controller.choose(settingRow<&Settings::decimalMode>(), 0);
     platform.format.decimalSeparator.assign(1, u',');
     controller.applicationWillBecomeActive();
     EXPECT_EQ(shown(1234567.891), u"1.234.567,891\u20090");
-    EXPECT_EQ(controller.cDisplay().decimalSeparator(), u',');
+    EXPECT_EQ(controller.calculator().cDisplay().decimalSeparator(), u',');
 }
 
 TEST_F(WindowLines, GroupByTheSettings) {
     const Text separators[]{u"1234.5678", u"1,234.567\u20098", u"1\u2009234.567\u20098",
                             u"1 234.567 8", u"1234.5678"};
     for (int mode = 0; mode < 5; ++mode) {
-        controller.setDigitGroupingSeparatorMode(mode);
-        controller.syncDisplays();
+        controller.choose(settingRow<&Settings::digitGroupingSeparatorMode>(), mode);
         EXPECT_EQ(shown(1234.5678), separators[mode]) << mode;
     }
     const std::uint32_t sizes[]{3, 2, 2, 3, 4, 4, 4};
     for (int mode = 0; mode < 7; ++mode) {
-        controller.setDigitGroupingDigitsMode(mode);
-        EXPECT_EQ(controller.xDisplay().settings().groupingDigits, sizes[mode]) << mode;
+        controller.choose(settingRow<&Settings::digitGroupingDigitsMode>(), mode);
+        EXPECT_EQ(controller.calculator().xDisplay().settings().groupingDigits, sizes[mode])
+            << mode;
         EXPECT_EQ(controller.settings().digitGroupingDigitsMode, mode);
     }
     platform.format.groupingSize = 0;
-    controller.setDigitGroupingDigitsMode(0);
-    EXPECT_EQ(controller.xDisplay().settings().groupingDigits, 3U);
+    controller.choose(settingRow<&Settings::digitGroupingDigitsMode>(), 0);
+    EXPECT_EQ(controller.calculator().xDisplay().settings().groupingDigits, 3U);
     // By mode, the integer bases have marks of their own.
-    controller.setDigitGroupingSeparatorMode(1);
+    controller.choose(settingRow<&Settings::digitGroupingSeparatorMode>(), 1);
     const Text thin = u"\u2009";
     const Text groups[]{u"\u2219", u",", u"\u2219", u"\u2219"};
     for (int mode = 8; mode < 12; ++mode) {
-        controller.takeInputModeFrom(itemOf(mode));
-        EXPECT_EQ(controller.yDisplay().settings().integerGroupingSeparator, groups[mode - 8])
+        controller.choose(settingRow<&Settings::inputDisplayMode>(), mode);
+        EXPECT_EQ(controller.calculator().yDisplay().settings().integerGroupingSeparator,
+                  groups[mode - 8])
             << mode;
-        EXPECT_EQ(controller.yDisplay().settings().decimalGroupingSeparator,
+        EXPECT_EQ(controller.calculator().yDisplay().settings().decimalGroupingSeparator,
                   mode == 11 ? u" " : thin);
     }
 }
@@ -129,14 +131,15 @@ TEST_F(WindowLines, ShowOneNumberInThirteenModes) {
              {u"000\u2009000\u2219002\u2009323", u"oct", inexact},
              {u"0000 0100 1101 0011 ", u"bin", inexact},
              {u"1,234.567\u20098", u"", u""}};
-    controller.stack().reg.fill(1234.5678);
+    edit(controller.calculator(), [](CalculatorState& state) { state.stack.reg.fill(1234.5678); });
     for (int mode = 0; mode < 13; ++mode) {
         SCOPED_TRACE(mode);
-        controller.takeInputModeFrom(itemOf(mode));
-        DYXOutputDisplay& x = controller.xDisplay();
+        controller.choose(settingRow<&Settings::inputDisplayMode>(), mode);
+        DYXOutputDisplay& x = controller.calculator().xDisplay();
         EXPECT_EQ(x.statusField()->stringValue(), rows[mode].status);
         for (DYXOutputDisplay* line :
-             {&x, &controller.yDisplay(), &controller.zDisplay(), &controller.tDisplay()}) {
+             {&x, &controller.calculator().yDisplay(), &controller.calculator().zDisplay(),
+              &controller.calculator().tDisplay()}) {
             EXPECT_EQ(mantissaOf(*line), rows[mode].mantissa);
             EXPECT_EQ(line->exponentField()->stringValue(), rows[mode].exponent);
             EXPECT_EQ(line->mantissaField()->alignment(), x.mantissaField()->alignment());

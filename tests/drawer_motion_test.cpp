@@ -53,8 +53,8 @@ class DrawerMotion : public testing::Test {
 };
 
 TEST_F(DrawerMotion, LeavesNothingOutAfterTwoTogglesAtOnce) {
-    controller.takeToggleMemoryDrawerFrom();
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
+    controller.drawers().toggleDrawer(DrawerName::memory);
     settle();
     EXPECT_EQ(drawer(DrawerName::memory).state(), NSDrawerClosedState);
     EXPECT_EQ(shown(), QRect());
@@ -62,7 +62,7 @@ TEST_F(DrawerMotion, LeavesNothingOutAfterTwoTogglesAtOnce) {
 
 TEST_F(DrawerMotion, KeepsAShrinkingDrawerAtTheBody) {
     NSDrawer& constants = drawer(DrawerName::constants);
-    controller.takeToggleConstantsDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::constants);
     settle();
     constants.setContentSize({91, constants.maxContentSize().height});
     watch([&] { EXPECT_EQ(shown().right() + 1, window.bodyRect().left()); });
@@ -70,20 +70,20 @@ TEST_F(DrawerMotion, KeepsAShrinkingDrawerAtTheBody) {
 }
 
 TEST_F(DrawerMotion, KeepsTheHeightOfASideDrawerWhileTheBodyChangesItsOwn) {
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
     settle();
     const int height = shown().height();
     const auto expectHeight = [&] { EXPECT_EQ(shown().height(), height); };
-    controller.takeShowYZTRegistersFrom();
+    controller.geometry().takeShowYZTRegistersFrom();
     watch(expectHeight);
-    controller.takeShowYZTRegistersFrom();
+    controller.geometry().takeShowYZTRegistersFrom();
     watch(expectHeight);
     // A second drawer still closes when the key pad is asked to go, and keeps it waiting.
-    controller.takeToggleConstantsDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::constants);
     settle();
-    controller.takeToggleConstantsDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::constants);
     QTest::qWait(60);
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
     watch([&] { EXPECT_TRUE(shown().isEmpty() || shown().height() == height); });
     EXPECT_EQ(window.bodyRect().size(), QSize(274, 67));
 }
@@ -92,30 +92,30 @@ TEST_F(DrawerMotion, MovesAsideForADrawerAndBackUnlessMovedMeanwhile) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QPoint home(screen.right() - 350, 300);
     moveBodyTo(home);
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
     settle();
     EXPECT_EQ(shown().translated(window.geometry().topLeft()).right(), screen.right());
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
     settle();
     EXPECT_EQ(bodyOnScreen(), home);
 
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
     settle();
     const QPoint chosen = bodyOnScreen() + QPoint(0, 10);
     moveBodyTo(chosen);
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
     settle();
     EXPECT_EQ(bodyOnScreen(), chosen);
 }
 
 TEST_F(DrawerMotion, OpensADrawerOnTheScreenThatComesBackWithTheKeyPad) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
     settle();
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
     settle();
     moveBodyTo({screen.right() - 280, 100});
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
     settle();
     EXPECT_EQ(drawer(DrawerName::memory).state(), NSDrawerOpenState);
     EXPECT_EQ(shown().translated(window.geometry().topLeft()).right(), screen.right());

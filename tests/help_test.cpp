@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/DYXCalculator.h"
 #include "help/PageMaker.h"
 #include "help/function_notes.h"
 #include "platform/HeadlessPlatform.h"
@@ -59,10 +60,10 @@ TEST(HelpPages, HaveExamplesThatCalculateSo) {
             ASSERT_TRUE(applySettings(calculator, match.str(1)));
             std::istringstream keys(match.str(2));
             for (std::string key; keys >> key;) {
-                press(calculator, caps.step(key));
+                press(calculator.calculator(), caps.step(key));
             }
-            calculator.updateDisplay();
-            EXPECT_EQ(std::regex_replace(htmlText(shownX(calculator)), thinSpace, " "),
+            calculator.calculator().updateDisplay();
+            EXPECT_EQ(std::regex_replace(htmlText(shownX(calculator.calculator())), thinSpace, " "),
                       std::regex_replace(match.str(3), quote, "&quot;"));
             EXPECT_EQ(platform.beeps, 0);
             ++count;
@@ -161,33 +162,33 @@ TEST_F(Help, ShowsItselfAtTheFirstStartAndTogglesAfterwards) {
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(url(), u"file:///resources/HelpStart.html");
     EXPECT_EQ(window.frame(), (NSRect{0, 0, 760, 1080}));
-    controller.takeToggleHelpWindowFrom();
+    controller.help().takeToggleHelpWindowFrom();
     EXPECT_FALSE(window.isVisible());
     controller.views().help.matrix->performClickAt(1, 0);
     view.loadRequest(u"elsewhere");
-    controller.takeToggleHelpWindowFrom();  // loads the selected page afresh
+    controller.help().takeToggleHelpWindowFrom();  // loads the selected page afresh
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(url(), u"file:///resources/HelpStack.html");
-    controller.takeShowHelpFrame(nullptr);
+    controller.help().showFirstPage();
     EXPECT_EQ(url(), u"file:///resources/HelpStart.html");
     platform.resources = "/a b/\u00E4";
-    controller.showHelpFor(command("unit", "SQR "));
+    controller.help().showHelpFor(command("unit", "SQR "));
     EXPECT_EQ(url(), u"file:///a%20b/%C3%A4/HelpFunctions.html#unitSQR%20");
     EXPECT_EQ(controller.views().help.matrix->selectedRow(), 5);
 }
 
 TEST_F(Help, CountsTheStepsOfItsText) {
     for (int step = 1; step < 20; ++step) {
-        controller.takeMakeHelpTextLargerFrom();
+        controller.help().takeMakeHelpTextLargerFrom();
         EXPECT_EQ(view.textSteps(), std::min(step, WebView::kLargestText));
     }
-    controller.takeMakeHelpTextNormalFrom();
+    controller.help().takeMakeHelpTextNormalFrom();
     EXPECT_EQ(view.textSteps(), 0);
-    controller.setHelpViewTextToSize(2'000'000'000);  // as a damaged file has it
+    controller.help().setHelpViewTextToSize(2'000'000'000);  // as a damaged file has it
     EXPECT_EQ(view.textSteps(), WebView::kLargestText);
-    EXPECT_EQ(controller.helpViewTextSize(), 2'000'000'000);
-    controller.setHelpViewTextToSize(-2'147'483'647 - 1);
-    controller.takeMakeHelpTextSmallerFrom();
+    EXPECT_EQ(controller.help().textSize(), 2'000'000'000);
+    controller.help().setHelpViewTextToSize(-2'147'483'647 - 1);
+    controller.help().takeMakeHelpTextSmallerFrom();
     EXPECT_EQ(view.textSteps(), WebView::kSmallestText);
 }
 

@@ -76,7 +76,7 @@ TEST(Stack, HoldsAfterTheKeys) {
     for (const auto& row : rows) {
         KeyScript script;
         script.setStack(7, 2, 3, 4);
-        script.calculator.stack().lastX = 9;
+        edit(script.calculator, [](CalculatorState& state) { state.stack.lastX = 9; });
         script.press(row.keys);
         EXPECT_EQ(script.calculator.stack().reg, row.reg) << row.keys;
         EXPECT_EQ(script.calculator.stack().lastX, row.lastX) << row.keys;

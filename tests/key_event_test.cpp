@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "edit_state.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/NSEvent.h"
 #include "ui/DYXWindowController.h"
@@ -31,18 +32,17 @@ class Keyboard : public testing::Test {
         return controller.views().keyPad.button(commandFromString(text));
     }
     NSWindow& window() { return controller.views().window; }
-    void setX(double x) {
-        controller.stack().x() = x;
-        controller.setInputState(InputState::lifting);
-    }
-    double x() {
-        controller.updateRegister();
-        return controller.stack().x();
+    void setX(double x) { talvex::setX(controller.calculator(), x); }
+    double x() { return xOf(controller.calculator()); }
+    void setRegister(std::size_t number, double value) {
+        edit(controller.calculator(),
+             [&](CalculatorState& state) { state.mem.at(number) = value; });
     }
     // INV, HYP, RCL and STO, which their keys have to show.
     std::array<int, 4> modifiers() {
-        const std::array<int, 4> modifiers{controller.inverse, controller.hyperbolic,
-                                           controller.recall(), controller.store()};
+        const Modifiers& now = controller.calculator().modifiers();
+        const std::array<int, 4> modifiers{now.inverse, now.hyperbolic, now.recall,
+                                           static_cast<int>(now.store)};
         const std::array<int, 4> shown{button(u"modiARC ").state(), button(u"modiHYP ").state(),
                                        button(u"memoRCL ").state(), button(u"memoSTO ").state()};
         EXPECT_EQ(shown, modifiers);
@@ -74,12 +74,12 @@ TEST_F(Keyboard, ModifierKeysRebuildTheModifiers) {
 }
 
 TEST_F(Keyboard, RecallsWithEveryDigitAfterAClickOnRecall) {
-    controller.mem()[3] = 30;
-    controller.mem()[4] = 40;
+    setRegister(3, 30);
+    setRegister(4, 40);
     click(u"memoRCL ");
     EXPECT_TRUE(press(u"3"));
     EXPECT_TRUE(press(u"4"));
-    EXPECT_EQ(controller.stack().reg[1], 30);
+    EXPECT_EQ(controller.calculator().stack().reg[1], 30);
     EXPECT_EQ(x(), 40);
     EXPECT_EQ(modifiers(), (std::array<int, 4>{0, 0, 1, 0}));
     hold(0);
@@ -87,7 +87,7 @@ TEST_F(Keyboard, RecallsWithEveryDigitAfterAClickOnRecall) {
 }
 
 TEST_F(Keyboard, KeepsAClickedInverseForTheNextKeysAndNotForAClick) {
-    controller.angleMode = AngleMode::deg;
+    controller.choose(settingRow<&Settings::angleMode>(), 1);
     setX(1);
     click(u"modiARC ");
     press(u"s");
@@ -98,22 +98,21 @@ TEST_F(Keyboard, KeepsAClickedInverseForTheNextKeysAndNotForAClick) {
     setX(-1);
     click(u"unitGSIN");
     EXPECT_DOUBLE_EQ(x(), -90);
-    EXPECT_FALSE(controller.inverse);
+    EXPECT_FALSE(controller.calculator().modifiers().inverse);
 }
 
 TEST_F(Keyboard, KeepsAStoreWithArithmeticThroughMovementsOfTheModifierKeys) {
     setX(5);
-    controller.mem()[3] = 2;
+    setRegister(3, 2);
     hold(kControl | kOption);
     press(u"+");
     for (const std::uint32_t held : {kOption, kShift, kCommand, 0U}) {
         hold(held);
-        EXPECT_EQ(controller.store(), 2);
-        EXPECT_FALSE(controller.inverse || controller.hyperbolic || controller.recall());
+        EXPECT_EQ(controller.calculator().modifiers(), Modifiers{.store = Store::add});
     }
     EXPECT_EQ(button(u"memoSTO+").state(), 1);
     press(u"3");
-    EXPECT_EQ(controller.mem()[3], 7);
+    EXPECT_EQ(controller.calculator().mem()[3], 7);
     EXPECT_EQ(modifiers(), (std::array<int, 4>{}));
     EXPECT_EQ(button(u"memoSTO+").state(), 0);
 }

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/DYXCalculator.h"
+#include "edit_state.h"
 #include "platform/HeadlessPlatform.h"
 
 namespace talvex {
@@ -18,7 +18,9 @@ class KeyScript {
     // A command as a button carries it, for codes that have no name here: "unitSQR ".
     void run(std::string_view command);
     void inMode(std::int32_t inputMode) { calculator.xDisplay().setInputMode(inputMode); }
-    void setStack(double x, double y, double z, double t) { calculator.stack().reg = {x, y, z, t}; }
+    void setStack(double x, double y, double z, double t) {
+        edit(calculator, [&](CalculatorState& state) { state.stack.reg = {x, y, z, t}; });
+    }
 
     [[nodiscard]] double x() const { return calculator.stack().reg[0]; }
     [[nodiscard]] double y() const { return calculator.stack().reg[1]; }

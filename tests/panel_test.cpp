@@ -9,7 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "core/converter_table.h"
 #include "core/function_tables.h"
+#include "edit_state.h"
 #include "numeric/DYXnan.h"
 #include "platform/HeadlessPlatform.h"
 #include "ui/DYXWindowController.h"
@@ -18,8 +20,6 @@ namespace talvex {
 namespace {
 
 using Text = std::u16string;
-
-NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
 
 class Panels : public testing::Test {
   protected:
@@ -49,7 +49,7 @@ class Panels : public testing::Test {
 TEST_F(Panels, HaveAKeyForEveryCommand) {
     std::vector<Comand> reached;
     for (const int mode : {0, 8}) {
-        controller.takeInputModeFrom(itemOf(mode));
+        controller.choose(settingRow<&Settings::inputDisplayMode>(), mode);
         for (const Key& each : controller.views().allKeys()) {
             reached.push_back(each.button->command());
         }
@@ -117,7 +117,7 @@ TEST_F(Panels, TellWhatAKeyDoesAndItsHotKey) {
         leave(key(command, false));
     }
     NSButton& button = key(u"dataE-03", false);
-    controller.takeInputModeFrom(itemOf(8));
+    controller.choose(settingRow<&Settings::inputDisplayMode>(), 8);
     enter(button);
     EXPECT_EQ(padText(), u"[a] : A ");
     EXPECT_EQ(button.toolTip(), u"");
@@ -140,7 +140,8 @@ TEST_F(Panels, TellWhatARegisterHoldsNow) {
                                          {-HUGE_VAL, u"M5 = -inf "},
                                          {DYXnan('?'), u"M5 = undefined "}};
     for (const auto& [number, text] : rows) {
-        controller.mem()[5] = number;
+        edit(controller.calculator(),
+             [value = number](CalculatorState& state) { state.mem[5] = value; });
         enter(view);
         EXPECT_EQ(field.stringValue(), text);
         leave(view);
@@ -161,8 +162,8 @@ TEST_F(Panels, KeepTheTextOfTheNextKeyWhenTheLastOneIsLeftLate) {
 
 TEST_F(Panels, TellNothingAboutAKeyThatHasGone) {
     enter(key(u"unitGSIN", false));
-    controller.takeShowKeyPadFrom();
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
     EXPECT_EQ(padText(), u"");
     enter(*tabs().tabViewItems()[1].view->subviews().front());
     EXPECT_NE(tabs().statusField()->stringValue(), u"");
@@ -181,22 +182,22 @@ TEST_F(Panels, TellNothingWhileStatusLinesAreOff) {
     const WindowViews& views = controller.views();
     const std::size_t others = views.allKeys().size() - converters().size();
     const std::size_t keys = others + views.conversionPanel.pages[1].size();
-    controller.takeShowStatusLineFrom();
-    controller.takeShowYZTRegistersFrom();
+    controller.geometry().takeShowStatusLineFrom();
+    controller.geometry().takeShowYZTRegistersFrom();
     EXPECT_EQ(tracked(), keys);
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
     EXPECT_EQ(tracked(), keys - views.keyPad.keys().size());
-    controller.takeShowYZTRegistersFrom();
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowYZTRegistersFrom();
+    controller.geometry().takeShowKeyPadFrom();
     EXPECT_EQ(tracked(), keys);
 
     enter(key(u"unitGSIN", false));
-    controller.takeStatusLinesEnabledFrom(itemOf(0));
+    controller.choose(settingRow<&Settings::statusLinesEnabled>(), 0);
     EXPECT_EQ(padText(), u"");
-    controller.takeShowYZTRegistersFrom();
+    controller.geometry().takeShowYZTRegistersFrom();
     tabs().selectTabViewItemAtIndex(2);
     EXPECT_EQ(tracked(), 0U);
-    controller.takeStatusLinesEnabledFrom(itemOf(0));
+    controller.choose(settingRow<&Settings::statusLinesEnabled>(), 1);
     EXPECT_EQ(tracked(), others + views.conversionPanel.pages[2].size());
 }
 

@@ -15,6 +15,7 @@
 #include <tuple>
 #include <utility>
 
+#include "edit_state.h"
 #include "numeric/DYXnan.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/NSEvent.h"
@@ -61,8 +62,6 @@ PropertyData dataOf(double number) {
     return {bytes.begin(), bytes.end()};
 }
 
-NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
-
 // Turns over every switch of a menu, and chooses the last of several values.
 void chooseAll(NSMenu& menu) {
     for (NSMenuItem& item : menu.items) {
@@ -78,15 +77,13 @@ void chooseAll(NSMenu& menu) {
 
 // What the menu, the drawers and the help were set to, as far as it can be seen.
 auto settingsOf(const DYXWindowController& calculator) {
-    const DYXInputDisplay& line = calculator.xDisplay();
-    const DYXSettings& settings = calculator.settings();
+    const DYXInputDisplay& line = calculator.calculator().xDisplay();
+    const DYXMathContext context = calculator.calculator().context();
     const WindowLayout& layout = calculator.layout();
     const HelpViews& help = calculator.views().help;
     return std::tuple(
-        line.settings(), line.inputSettings(), line.textFont()->name, calculator.angleMode,
-        calculator.useHPStylePowerAndLogs, settings.animateWindow,
-        settings.includeDigitGroupingWhenCopying, settings.registerLabelsHidden,
-        settings.autoHideXLabel, settings.statusLinesEnabled, layout.keyPadHidden,
+        calculator.settings(), line.settings(), line.inputSettings(), line.textFont()->name,
+        context.angleMode, context.useHPStylePowerAndLogs, layout.keyPadHidden,
         layout.displayViewMode, layout.showStatusLine, calculator.views().window.frame(),
         calculator.views().conversionPanel.tabView->indexOfSelectedItem(), help.window.frame(),
         help.window.isVisible(), help.webView.textSteps(), help.webView.requestedURL());
@@ -94,19 +91,21 @@ auto settingsOf(const DYXWindowController& calculator) {
 
 TEST_F(SavedFile, BringsEverythingBackToTheBit) {
     DYXWindowController first(platform);
-    first.stack() = {.reg = {DYXnan('L'), -0.0, kInfinity, 5e-324}, .lastX = -kInfinity};
-    for (std::size_t index = 0; index < 21; ++index) {
-        first.mem().at(index) = 1.0 / (1.0 + static_cast<double>(index));
-    }
+    edit(first.calculator(), [](CalculatorState& state) {
+        state.stack = {.reg = {DYXnan('L'), -0.0, kInfinity, 5e-324}, .lastX = -kInfinity};
+        for (std::size_t index = 0; index < kSavedRegisters; ++index) {
+            state.mem.at(index) = 1.0 / (1.0 + static_cast<double>(index));
+        }
+    });
     for (const DrawerName name : kDrawerNames) {
-        first.toggleDrawer(first.drawers()[name].record);
+        first.drawers().toggleDrawer(name);
     }
     chooseAll(first.views().menu);
-    first.takeOutputModeFrom(itemOf(5));
+    first.choose(settingRow<&Settings::outputDisplayMode>(), 5);
     first.views().conversionPanel.tabView->selectTabViewItemAtIndex(3);
     first.views().help.matrix->performClickAt(3, 0);
     first.views().help.window.setFrame({10, 20, 500, 400});
-    first.setHelpViewTextToSize(-2);
+    first.help().setHelpViewTextToSize(-2);
     first.applicationWillTerminate();
     const PropertyDictionary saved = propertiesOf(*StateFile(home).read());
     for (const auto& [key, value] : propertiesOf({})) {  // the drawers are closed, to come back
@@ -115,17 +114,12 @@ TEST_F(SavedFile, BringsEverythingBackToTheBit) {
     }
     DYXWindowController second(platform);
     EXPECT_EQ(settingsOf(second), settingsOf(first));
-    for (std::size_t index = 0; index < 4; ++index) {
-        EXPECT_TRUE(isSame(second.stack().reg.at(index), first.stack().reg.at(index))) << index;
-    }
-    EXPECT_EQ(second.stack().lastX, -kInfinity);
-    EXPECT_EQ(second.mem(), first.mem());
-    EXPECT_EQ(second.inputState(), InputState::lifting);
-    EXPECT_EQ(second.yDisplay().outputMode(), 5);
+    EXPECT_TRUE(second.calculator().state() == first.calculator().state());
+    EXPECT_EQ(second.calculator().yDisplay().outputMode(), 5);
     for (const Key& key : second.views().allKeys()) {
         EXPECT_EQ(key.button->toolTip(), u"") << "the desktop would show it, marks and all";
     }
-    second.takeShowKeyPadFrom();
+    second.geometry().takeShowKeyPadFrom();
     for (const DrawerName name : kDrawerNames) {
         EXPECT_TRUE(second.drawers()[name].record.isOpenOrOpening());
     }
@@ -138,7 +132,7 @@ TEST_F(SavedFile, EndsALiveEntryAsEnterDoesAndASaveDoesnt) {
     }
     calculator.saveDocument();
     EXPECT_EQ(StateFile(home).read()->reg[1], 0.0);
-    EXPECT_EQ(calculator.inputState(), InputState::entering);
+    EXPECT_EQ(calculator.calculator().inputState(), InputState::entering);
     calculator.applicationWillTerminate();
     const SavedState state = *StateFile(home).read();
     EXPECT_EQ(state.reg, (std::array<double, 4>{42, 42, 0, 0}));
@@ -149,13 +143,13 @@ TEST_F(SavedFile, EndsALiveEntryAsEnterDoesAndASaveDoesnt) {
 TEST_F(SavedFile, RevertsToWhatWasSaved) {
     DYXWindowController calculator(platform);
     calculator.revertDocumentToSaved();
-    calculator.stack().x() = 3.5;
+    setX(calculator.calculator(), 3.5);
     calculator.saveDocument();
-    calculator.stack().x() = 4.5;
-    calculator.takeInputModeFrom(itemOf(1));
-    calculator.takeDecimalModeFrom(itemOf(2));
+    setX(calculator.calculator(), 4.5);
+    calculator.choose(settingRow<&Settings::inputDisplayMode>(), 1);
+    calculator.choose(settingRow<&Settings::decimalMode>(), 2);
     calculator.revertDocumentToSaved();
-    EXPECT_EQ(calculator.xDisplay().mantissaField()->stringValue(), u"3.500\u20090");
+    EXPECT_EQ(calculator.calculator().xDisplay().mantissaField()->stringValue(), u"3.500\u20090");
 }
 
 TEST_F(SavedFile, LeavesTheLayoutAloneWithoutAFrame) {
@@ -164,14 +158,14 @@ TEST_F(SavedFile, LeavesTheLayoutAloneWithoutAFrame) {
                                    {"digits", std::int64_t{7}}},
                                   PropertyListFlavour::xml));
     DYXWindowController calculator(platform);
-    EXPECT_EQ(calculator.xDisplay().digits(), 7U);
-    calculator.takeToggleMemoryDrawerFrom();
+    EXPECT_EQ(calculator.calculator().xDisplay().digits(), 7U);
+    calculator.drawers().toggleDrawer(DrawerName::memory);
     calculator.revertDocumentToSaved();
     EXPECT_EQ(calculator.drawers()[DrawerName::memory].record.state(), NSDrawerOpenState);
     EXPECT_FALSE(calculator.layout().keyPadHidden);
     // With one the status line comes and goes with the key pad.
     calculator.saveDocument();
-    calculator.takeShowKeyPadFrom();
+    calculator.geometry().takeShowKeyPadFrom();
     calculator.revertDocumentToSaved();
     EXPECT_FALSE(calculator.views().keyPad.view()->statusField()->isHidden());
 }
@@ -179,7 +173,6 @@ TEST_F(SavedFile, LeavesTheLayoutAloneWithoutAFrame) {
 TEST_F(SavedFile, HasTwoSetsOfDefaults) {
     PropertyDictionary missing = propertiesOf(savedStateFrom({}));
     const PropertyDictionary none = propertiesOf({});
-    EXPECT_EQ(none.size(), 61U);
     for (const char* key : {"showStatusLine", "includeDigitGroupingWhenCopying"}) {
         EXPECT_EQ(std::exchange(missing.at(key), false), PropertyValue(true)) << key;
     }
@@ -225,10 +218,10 @@ TEST_F(SavedFile, UnderstandsOlderKeysAndOtherKinds) {
                                            {"showStatusLines", false},
                                            {"helpFame", PropertyData(16)},
                                            {"frame", PropertyData(native.begin(), native.end())}});
-    EXPECT_TRUE(old.keyPadHidden);
-    EXPECT_TRUE(old.memoryWasOpen);
-    EXPECT_EQ(old.memoryDrawerState, 2);
-    EXPECT_FALSE(old.showStatusLine);
+    EXPECT_TRUE(old.layout.keyPadHidden);
+    EXPECT_TRUE(old.window.memoryWasOpen);
+    EXPECT_EQ(old.window.memoryDrawerState, 2);
+    EXPECT_FALSE(old.layout.showStatusLine);
     EXPECT_EQ(old.helpFrame, NSRect{});
     EXPECT_EQ(old.calculatorFrame, (NSRect{1, 2, 404, 229}));
     const SavedState odd = savedStateFrom({{"reg[0]", std::int64_t{7}},
@@ -243,11 +236,11 @@ TEST_F(SavedFile, UnderstandsOlderKeysAndOtherKinds) {
                                            {"calculatorFrame", std::string("here")},
                                            {"showStatusLines", false}});
     EXPECT_EQ(odd.reg, (std::array<double, 4>{7, -25, 0, 1}));
-    EXPECT_EQ(static_cast<std::uint32_t>(odd.digits), 4'000'000'000U);
-    EXPECT_EQ(odd.angleMode, 3);
-    EXPECT_EQ(odd.fontMode, 1);
-    EXPECT_TRUE(odd.showStatusLine);
-    EXPECT_FALSE(odd.animateWindow);
+    EXPECT_EQ(static_cast<std::uint32_t>(odd.settings.digits), 4'000'000'000U);
+    EXPECT_EQ(odd.settings.angleMode, AngleMode::hrs);
+    EXPECT_EQ(odd.settings.fontMode, FontMode::proportional);
+    EXPECT_TRUE(odd.layout.showStatusLine);
+    EXPECT_FALSE(odd.settings.animateWindow);
     EXPECT_EQ(odd.calculatorFrame, NSRect{});
 }
 

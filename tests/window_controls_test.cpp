@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <optional>
 #include <string>
 #include <tuple>
 
+#include "edit_state.h"
 #include "platform/HeadlessPlatform.h"
 #include "platform/NSEvent.h"
 #include "ui/DYXWindowController.h"
@@ -14,8 +14,6 @@ namespace {
 
 using Text = std::u16string;
 
-NSMenuItem itemOf(int tag) { return {.title = {}, .tag = tag, .action = {}}; }
-
 class WindowControls : public testing::Test {
   protected:
     NSButton& button(std::u16string_view text) {
@@ -23,11 +21,8 @@ class WindowControls : public testing::Test {
     }
     // Everything that a command may change.
     [[nodiscard]] auto state() const {
-        const DYXInputDisplay& line = controller.xDisplay();
         return std::tuple(
-            controller.stack().reg, controller.stack().lastX, controller.mem(),
-            controller.inputState(), controller.inverse, controller.hyperbolic, controller.recall(),
-            controller.store(), line.entry(), line.inputSettings(),
+            controller.calculator().state(), controller.settings().unlockInputAndOutputModes,
             std::count_if(kDrawerNames.begin(), kDrawerNames.end(), [this](DrawerName name) {
                 return controller.drawers()[name].record.isOpenOrOpening();
             }));
@@ -43,17 +38,19 @@ TEST_F(WindowControls, EveryKeyHasANameAndACommandThatDoesSomething) {
         SCOPED_TRACE(testing::PrintToString(button.accessibilityLabel()));
         EXPECT_FALSE(button.accessibilityLabel().empty());
         EXPECT_EQ(button.keyEquivalent(), u"");
-        controller.stack() = {.reg = {-2.5, 3.0, 4.0, 5.0}, .lastX = 9.0};
-        controller.mem().fill(6.0);
-        controller.setInputState(InputState::replacing);
+        CalculatorState start;
+        start.stack = {.reg = {-2.5, 3.0, 4.0, 5.0}, .lastX = 9.0};
+        start.mem.fill(6.0);
+        start.inputState = InputState::replacing;
+        start.lastCommand = button.command();
         // Cancelling shows only where something is armed.
-        controller.setStore(button.command() == command("memo", "STOC") ? 1 : 0);
+        start.modifiers.store =
+            button.command() == command("memo", "STOC") ? Store::plain : Store::nothing;
+        controller.calculator().setState(start);
         const auto before = state();
         button.performClick();
-        EXPECT_NE(state(), before);
-        button.performClick();  // the modifiers, the lock and the drawers go back
-        controller.inverse = controller.hyperbolic = false;
-        controller.setRecall(false);
+        EXPECT_FALSE(state() == before);
+        button.performClick();  // the lock and the drawers go back
     }
     EXPECT_EQ(platform.beeps, 0);
 }
@@ -61,17 +58,16 @@ TEST_F(WindowControls, EveryKeyHasANameAndACommandThatDoesSomething) {
 TEST_F(WindowControls, SixKeysCarryLettersInHexInputAndExponentsElsewhere) {
     constexpr double kExponents[]{1e-3, 1e-6, 1e-9, 1e3, 1e6, 1e9};
     for (const int mode : {8, 0, 8, 0}) {
-        controller.takeInputModeFrom(itemOf(mode));
+        controller.choose(settingRow<&Settings::inputDisplayMode>(), mode);
         for (std::size_t index = 0; index < 6; ++index) {
             SCOPED_TRACE(index);
             NSButton& key = *controller.views().keyPad.hexButtons().at(index);
             const bool isHex = mode == 8;
             EXPECT_EQ(key.title(), isHex ? Text(1, static_cast<char16_t>(u'A' + index)) : u"");
             EXPECT_EQ(key.imagePosition() == NSImagePosition::imageOnly, !isHex);
-            controller.setInputState(InputState::lifting);
+            setX(controller.calculator(), 0.0);
             key.performClick();
-            controller.updateRegister();
-            EXPECT_EQ(controller.stack().x(),
+            EXPECT_EQ(xOf(controller.calculator()),
                       isHex ? 10.0 + static_cast<double>(index) : kExponents[index]);
         }
     }
@@ -84,7 +80,7 @@ TEST_F(WindowControls, TheLockDecidesWhetherThereIsAnOutputMode) {
     lock.performClick();
     EXPECT_EQ(lock.state(), 1);
     EXPECT_FALSE(output.isHidden());
-    controller.takeOutputModeFrom(itemOf(1));
+    controller.choose(settingRow<&Settings::outputDisplayMode>(), 1);
     EXPECT_EQ(output.title(), u"SCI\u25B8");
     EXPECT_EQ(controller.views().inputModePopUp->title(), Text(u"\u25B8") + u"FIX");
     lock.performClick();
@@ -95,9 +91,8 @@ TEST_F(WindowControls, TheLockDecidesWhetherThereIsAnOutputMode) {
 TEST_F(WindowControls, PowerKeysShowTheOrderOfTheirOperands) {
     EXPECT_EQ(button(u"bina^   ").image(), u"powyxSmall.tiff");
     EXPECT_EQ(button(u"bina~   ").image(), u"lnyxSmall.tiff");
-    controller.takeHPStylePowerAndLogsFrom(false);
-    controller.takeHPStylePowerAndLogsFrom(std::nullopt);
-    EXPECT_FALSE(controller.useHPStylePowerAndLogs);
+    controller.choose(settingRow<&Settings::useHPStylePowerAndLogs>(), 0);
+    EXPECT_FALSE(controller.calculator().context().useHPStylePowerAndLogs);
     EXPECT_EQ(button(u"bina^   ").image(), u"powxySmall.tiff");
     EXPECT_EQ(button(u"bina~   ").image(), u"lnxySmall.tiff");
 }
@@ -113,8 +108,8 @@ TEST_F(WindowControls, TheDecimalKeyShowsTheSeparator) {
     EXPECT_EQ(key.image(), u"");
     EXPECT_EQ(key.title(), u"\u00B7");
     EXPECT_TRUE(controller.keyDown({.charactersIgnoringModifiers = u"\u00B7"}));
-    EXPECT_TRUE(controller.xDisplay().entry().hasDecimal);
-    controller.setDecimalMode(1);
+    EXPECT_TRUE(controller.calculator().xDisplay().entry().hasDecimal);
+    controller.choose(settingRow<&Settings::decimalMode>(), 1);
     EXPECT_EQ(key.image(), u"pointSmall.tiff");
 }
 

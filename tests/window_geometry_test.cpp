@@ -8,6 +8,7 @@
 
 #include "platform/HeadlessPlatform.h"
 #include "ui/DYXWindowController.h"
+#include "ui/window_layout.h"
 
 namespace talvex {
 namespace {
@@ -30,7 +31,7 @@ class SlowDrawer final : public NSDrawerObserver {
     NSDrawer& drawer_;
 };
 
-class WindowGeometry : public testing::Test {
+class Layouts : public testing::Test {
   protected:
     NSDrawer& drawer(DrawerName name) { return controller.drawers()[name].record; }
     [[nodiscard]] NSSize contentSize() {
@@ -44,13 +45,13 @@ class WindowGeometry : public testing::Test {
     NSWindow& window = views.window;
 };
 
-TEST_F(WindowGeometry, HasSixLayoutsThatKeepTheTopLeftCorner) {
-    constexpr std::array kSwitches{&DYXWindowController::takeShowKeyPadFrom,
-                                   &DYXWindowController::takeShowYZTRegistersFrom,
-                                   &DYXWindowController::takeShowStatusLineFrom};
+TEST_F(Layouts, HasSixLayoutsThatKeepTheTopLeftCorner) {
+    constexpr std::array kSwitches{&WindowGeometry::takeShowKeyPadFrom,
+                                   &WindowGeometry::takeShowYZTRegistersFrom,
+                                   &WindowGeometry::takeShowStatusLineFrom};
     window.setFrameTopLeftPoint({100, 900});
     for (int step = 0; step < 200; ++step) {
-        (controller.*kSwitches.at(platform.random() % 3))();
+        (controller.geometry().*kSwitches.at(platform.random() % 3))();
         const auto& [keyPadHidden, mode, statusLine] = controller.layout();
         const double height = (mode == 1 ? 60 : 0) + (keyPadHidden ? 45 : statusLine ? 228 : 211);
         EXPECT_EQ(contentSize(), (NSSize{keyPadHidden ? 274.0 : 404.0, height}));
@@ -76,7 +77,7 @@ TEST_F(WindowGeometry, HasSixLayoutsThatKeepTheTopLeftCorner) {
     }
 }
 
-TEST_F(WindowGeometry, FindsAPlaceOnTheScreen) {
+TEST_F(Layouts, FindsAPlaceOnTheScreen) {
     const std::vector<NSRect> screens{{0, 40, 1000, 760}, {1000, 0, 1920, 1080}};
     EXPECT_EQ(centerRectOnScreen(screens, {7, 7, 404, 233}), (NSRect{298, 303.5, 404, 233}));
     EXPECT_EQ(centerRectOnScreen(screens, {7, 7, 1001, 233}), (NSRect{40, 193, 1001, 233}));
@@ -86,7 +87,7 @@ TEST_F(WindowGeometry, FindsAPlaceOnTheScreen) {
     EXPECT_EQ(leftRectOnScreen({}, {7, 7, 300, 233}), (NSRect{64, 64, 300, 233}));
 }
 
-TEST_F(WindowGeometry, TakesASavedLayout) {
+TEST_F(Layouts, TakesASavedLayout) {
     const struct {
         bool keyPadHidden;
         int mode;
@@ -96,50 +97,50 @@ TEST_F(WindowGeometry, TakesASavedLayout) {
              {false, 0, true, {10, 250, 404, 250}},
              {false, 77, false, {10, 207, 404, 293}}};  // a number that no layout has
     for (const auto& row : rows) {
-        controller.setupWindowAtLocationKeyPadHiddenDisplayViewModeStatusLine(
-            {10, 500}, row.keyPadHidden, row.mode, row.statusLine);
+        controller.geometry().setupWindowAtLocation({10, 500},
+                                                    {row.keyPadHidden, row.mode, row.statusLine});
         EXPECT_EQ(window.frame(), row.frame);
         EXPECT_EQ(views.keyPad.view()->isHidden(), row.keyPadHidden);
         EXPECT_EQ(views.keyPad.view()->statusField()->isHidden(), row.keyPadHidden);
     }
 }
 
-TEST_F(WindowGeometry, OpensDrawersOnlyBesideTheKeyPad) {
+TEST_F(Layouts, OpensDrawersOnlyBesideTheKeyPad) {
     NSDrawer& constants = drawer(DrawerName::constants);
     for (const double height : {200.0, 200.5}) {
         NSRect frame = window.frame();
         frame.height = height;
         window.setFrame(frame);
-        controller.takeToggleConstantsDrawerFrom();
+        controller.drawers().toggleDrawer(DrawerName::constants);
         EXPECT_EQ(constants.state(), height > 200.0 ? NSDrawerOpenState : NSDrawerClosedState);
     }
     const SlowDrawer slow(constants);
-    controller.takeToggleConstantsDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::constants);
     EXPECT_EQ(constants.state(), NSDrawerClosingState);
-    controller.takeToggleConstantsDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::constants);
     EXPECT_EQ(constants.state(), NSDrawerOpeningState);
 }
 
-TEST_F(WindowGeometry, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
+TEST_F(Layouts, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
     NSDrawer& memory = drawer(DrawerName::memory);
     NSDrawer& functions = drawer(DrawerName::functions);
     const SlowDrawer slowMemory(memory);
     const SlowDrawer slowFunctions(functions);
-    controller.takeToggleMemoryDrawerFrom();
-    controller.takeToggleFunctionsDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
+    controller.drawers().toggleDrawer(DrawerName::functions);
     functions.finishSliding();  // one is open, one still opening
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
     functions.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
     EXPECT_FALSE(views.keyPad.view()->isHidden());
-    controller.takeToggleFunctionsDrawerFrom();  // too late for that
+    controller.drawers().toggleDrawer(DrawerName::functions);  // too late for that
     EXPECT_EQ(functions.state(), NSDrawerClosedState);
     memory.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{274, 45}));
     EXPECT_TRUE(views.keyPad.view()->isHidden());
 
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
     EXPECT_EQ(memory.state(), NSDrawerOpeningState);
     EXPECT_EQ(functions.state(), NSDrawerOpeningState);
@@ -147,12 +148,12 @@ TEST_F(WindowGeometry, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
 
     // A drawer that closes by itself leaves the window alone.
     memory.finishSliding();
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
     memory.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
 }
 
-TEST_F(WindowGeometry, LetsADraggedDrawerRestAtTheNearestPosition) {
+TEST_F(Layouts, LetsADraggedDrawerRestAtTheNearestPosition) {
     using enum DrawerName;
     const struct {
         DrawerName name;
@@ -189,7 +190,7 @@ TEST_F(WindowGeometry, LetsADraggedDrawerRestAtTheNearestPosition) {
     }
 }
 
-TEST_F(WindowGeometry, PassesADragThroughUntilTheSizeComesTwiceWithTheMouseUp) {
+TEST_F(Layouts, PassesADragThroughUntilTheSizeComesTwiceWithTheMouseUp) {
     NSDrawer& constants = drawer(DrawerName::constants);
     constants.openOnEdge(NSMinXEdge);
     const double height = constants.maxContentSize().height;
@@ -203,7 +204,7 @@ TEST_F(WindowGeometry, PassesADragThroughUntilTheSizeComesTwiceWithTheMouseUp) {
     EXPECT_EQ(constants.contentSize(), (NSSize{0, height}));
 }
 
-TEST_F(WindowGeometry, OpensADrawerAgainWholeThatWasDraggedShut) {
+TEST_F(Layouts, OpensADrawerAgainWholeThatWasDraggedShut) {
     NSDrawer& memory = drawer(DrawerName::memory);
     const NSSize whole = memory.maxContentSize();
     memory.openOnEdge(NSMaxXEdge);
@@ -211,7 +212,7 @@ TEST_F(WindowGeometry, OpensADrawerAgainWholeThatWasDraggedShut) {
     memory.dragContentsToSize({1, whole.height});
     EXPECT_EQ(memory.contentSize().width, 0);
     EXPECT_EQ(memory.state(), NSDrawerOpenState);
-    controller.takeToggleMemoryDrawerFrom();
+    controller.drawers().toggleDrawer(DrawerName::memory);
     EXPECT_EQ(memory.contentSize(), whole);
     // The keys are where they were: they keep their distance from the outer edge.
     for (const Key& key : views.memoryPanel.keys) {
@@ -221,7 +222,7 @@ TEST_F(WindowGeometry, OpensADrawerAgainWholeThatWasDraggedShut) {
 }
 
 // A drawer at rest shows whole columns or rows.
-TEST_F(WindowGeometry, CutsNoKeyAtAnyRestingPlace) {
+TEST_F(Layouts, CutsNoKeyAtAnyRestingPlace) {
     const auto expectWhole = [this](DrawerName name, const std::vector<Key>& keys) {
         for (const double edge : controller.drawers()[name].positions) {
             for (const Key& key : keys) {

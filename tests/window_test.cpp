@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/DYXCalculator.h"
 #include "platform/HeadlessPlatform.h"
 #include "qt/CalculatorWindow.h"
 #include "qt/DrawerWidget.h"
@@ -44,7 +45,7 @@ class Window : public testing::Test {
     }
     NSDrawer& drawer(DrawerName name) { return controller.drawers()[name].record; }
     void open(DrawerName name) {
-        controller.toggleDrawer(drawer(name));
+        controller.drawers().toggleDrawer(name);
         ASSERT_TRUE(QTest::qWaitFor([&] { return drawer(name).state() == NSDrawerOpenState; }));
     }
     DrawerWidget* widgetOf(const NSDrawer& record) {
@@ -72,19 +73,18 @@ class Window : public testing::Test {
 };
 
 TEST_F(Window, HasSixLayoutsToThePixel) {
-    using Controller = DYXWindowController;
-    const std::pair<void (Controller::*)(), QSize> steps[]{
-        {&Controller::takeShowStatusLineFrom, {404, 250}},
-        {&Controller::takeShowYZTRegistersFrom, {404, 310}},
-        {&Controller::takeShowStatusLineFrom, {404, 293}},
-        {&Controller::takeShowKeyPadFrom, {274, 127}},
-        {&Controller::takeShowYZTRegistersFrom, {274, 67}},
-        {&Controller::takeShowKeyPadFrom, {404, 233}}};
+    const std::pair<void (WindowGeometry::*)(), QSize> steps[]{
+        {&WindowGeometry::takeShowStatusLineFrom, {404, 250}},
+        {&WindowGeometry::takeShowYZTRegistersFrom, {404, 310}},
+        {&WindowGeometry::takeShowStatusLineFrom, {404, 293}},
+        {&WindowGeometry::takeShowKeyPadFrom, {274, 127}},
+        {&WindowGeometry::takeShowYZTRegistersFrom, {274, 67}},
+        {&WindowGeometry::takeShowKeyPadFrom, {404, 233}}};
     const QPoint corner = window.bodyRect().topLeft();
     for (const int isStill : {0, 1}) {
-        controller.takeWindowSizingAnimationFrom({.title = {}, .action = {}, .state = isStill});
+        controller.choose(settingRow<&Settings::animateWindow>(), 1 - isStill);
         for (const auto& [change, size] : steps) {
-            (controller.*change)();
+            (controller.geometry().*change)();
             const QRect body(corner, size);
             EXPECT_TRUE(QTest::qWaitFor([&] { return window.bodyRect() == body; }))
                 << isStill << ' ' << size.height();
@@ -132,7 +132,7 @@ TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
         platform.mouseButtons = 0;
         mouse(QEvent::MouseButtonRelease, grip + row.way, Qt::NoButton);
         EXPECT_EQ(record.contentSize(), row.rest);
-        controller.toggleDrawer(record);
+        controller.drawers().toggleDrawer(row.name);
         EXPECT_TRUE(QTest::qWaitFor([&] { return record.state() == NSDrawerClosedState; }));
         EXPECT_TRUE(widget->visibleRect().isEmpty());
         record.setContentSize(record.maxContentSize());
@@ -168,12 +168,12 @@ TEST_F(Window, CanBeWalkedThroughByTheKeyboardAlone) {
                     reached.contains(each->accessibleName()))
             << each->accessibleName().toStdString();
     }
-    EXPECT_EQ(controller.stack().x(), 0.0);
+    EXPECT_EQ(controller.calculator().stack().x(), 0.0);
 
     button("8")->setFocus();
     QTest::keyClick(&window, Qt::Key_Space);
     QTest::keyClick(&window, '5');  // digits go to the calculator from anywhere
-    EXPECT_EQ(controller.xDisplay().entry().text, "85");
+    EXPECT_EQ(controller.calculator().xDisplay().entry().text, "85");
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_EQ(window.focusWidget(), &window);
 }
@@ -181,15 +181,15 @@ TEST_F(Window, CanBeWalkedThroughByTheKeyboardAlone) {
 TEST_F(Window, LeavesNoKeyWithTheKeyboardThatIsOutOfSight) {
     QTest::keyClick(&window, '5');
     button("sine")->setFocus();
-    controller.takeShowKeyPadFrom();
+    controller.geometry().takeShowKeyPadFrom();
     QTest::keyClick(&window, Qt::Key_Return);
-    EXPECT_EQ(controller.stack().x(), 5.0);
+    EXPECT_EQ(controller.calculator().stack().x(), 5.0);
     EXPECT_EQ(window.focusWidget(), &window);
 }
 
 TEST_F(Window, EndsUpAsItsRecordAfterTwoSwitchesAtOnce) {
-    controller.takeShowYZTRegistersFrom();
-    controller.takeShowYZTRegistersFrom();
+    controller.geometry().takeShowYZTRegistersFrom();
+    controller.geometry().takeShowYZTRegistersFrom();
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.bodyRect().height() == 233; }));
     QTest::qWait(250);
     EXPECT_EQ(window.bodyRect().height(), 233);
@@ -210,10 +210,10 @@ TEST(HelpWindow, IsMadeWhenItIsFirstShownAndFollowsLinks) {
     HeadlessPlatform platform;
     platform.resources = TALVEX_RESOURCES;
     DYXWindowController controller(platform);
-    controller.takeToggleHelpWindowFrom();  // it is open at the first start
+    controller.help().takeToggleHelpWindowFrom();  // it is open at the first start
     HelpPresenter presenter(controller);
     EXPECT_EQ(presenter.widget(), nullptr);
-    controller.takeToggleHelpWindowFrom();
+    controller.help().takeToggleHelpWindowFrom();
     ASSERT_NE(presenter.widget(), nullptr);
     HelpBrowser& browser = presenter.widget()->browser();
     EXPECT_TRUE(presenter.widget()->isVisible());
@@ -228,9 +228,9 @@ TEST(HelpWindow, IsMadeWhenItIsFirstShownAndFollowsLinks) {
     EXPECT_EQ(platform.openedURLs, (std::vector<std::u16string>{u"https://example.org/"}));
 
     const int size = browser.font().pixelSize();
-    controller.takeMakeHelpTextLargerFrom();
+    controller.help().takeMakeHelpTextLargerFrom();
     EXPECT_GT(browser.font().pixelSize(), size);
-    controller.takeMakeHelpTextNormalFrom();
+    controller.help().takeMakeHelpTextNormalFrom();
     EXPECT_EQ(browser.font().pixelSize(), size);
     presenter.widget()->close();
     EXPECT_FALSE(controller.views().help.window.isVisible());

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/NSWindow.h"
+#include "ui/StatusTexts.h"
 #include "ui/WindowViews.h"
 #include "ui/panel_geometry.h"
 
@@ -13,6 +14,24 @@ namespace talvex {
 namespace {
 
 constexpr double kSlidingStep = 15.0;
+// In a window no higher than this the key pad is hidden.
+constexpr double kLowWindow = 200.0;
+constexpr std::uint32_t kPrimaryButton = 1;
+// What stands above and below the content of a drawer at a side, title bar included.
+constexpr double kAroundSideDrawer = NSWindow::kTitleBarHeight + NSDrawer::kEnds;
+
+struct SavedDrawer {
+    DrawerName name;
+    bool WindowState::*wasOpen;
+    std::int32_t WindowState::*state;
+};
+
+constexpr auto kSavedDrawers = std::to_array<SavedDrawer>({
+    {DrawerName::memory, &WindowState::memoryWasOpen, &WindowState::memoryDrawerState},
+    {DrawerName::constants, &WindowState::constantsWasOpen, &WindowState::constantsDrawerState},
+    {DrawerName::conversion, &WindowState::conversionWasOpen, &WindowState::conversionDrawerState},
+    {DrawerName::functions, &WindowState::functionsWasOpen, &WindowState::functionsDrawerState},
+});
 
 }  // namespace
 
@@ -32,8 +51,13 @@ Drawer::Drawer(const std::shared_ptr<NSView>& content, NSRectEdge edge,
     }
 }
 
-Drawers::Drawers(const WindowViews& views)
-    : drawers_{Drawer(views.memoryPanel.view, NSMaxXEdge, {}),
+Drawers::Drawers(WindowViews& views, const WindowLayout& layout, const StatusTexts& statusTexts,
+                 const MousePort& mouse)
+    : views_(views),
+      layout_(layout),
+      statusTexts_(statusTexts),
+      mouse_(mouse),
+      drawers_{Drawer(views.memoryPanel.view, NSMaxXEdge, {}),
                Drawer(views.constantsPanel.view, NSMinXEdge,
                       constantsGrid(constantKeyRows().size()).columns.restingPlaces()),
                Drawer(views.conversionPanel.view, NSMaxYEdge, {}),
@@ -41,6 +65,13 @@ Drawers::Drawers(const WindowViews& views)
                       functionsGrid(functionKeyRows()).rows.restingPlaces())} {
     (*this)[DrawerName::functions].trackedView = views.functionsPanel.view.get();
     (*this)[DrawerName::memory].trackedView = views.memoryPanel.view.get();
+    windowDidResize();
+    for (const DrawerName name : kDrawerNames) {
+        NSDrawer& record = (*this)[name].record;
+        record.setDelegate(this);
+        views.keyPad.drawerButton(name).setAction(
+            [this, &record](NSButton& /*sender*/) { toggleDrawer(record); });
+    }
 }
 
 Drawer& Drawers::operator[](DrawerName name) { return drawers_.at(static_cast<std::size_t>(name)); }
@@ -60,6 +91,118 @@ bool Drawers::areClosed() const {
     return std::all_of(drawers_.begin(), drawers_.end(), [](const Drawer& drawer) {
         return drawer.record.state() == NSDrawerClosedState;
     });
+}
+
+void Drawers::windowDidResize() {
+    const double height = views_.window.frame().height;
+    for (const DrawerName name : {DrawerName::memory, DrawerName::constants}) {
+        NSDrawer& drawer = (*this)[name].record;
+        drawer.setTrailingOffset(height - drawer.maxContentSize().height - kAroundSideDrawer);
+    }
+}
+
+void Drawers::toggleDrawer(NSDrawer& drawer) {
+    if (drawer.isOpenOrOpening()) {
+        drawer.close();
+    } else if (!layout_.keyPadHidden && views_.window.frame().height > kLowWindow) {
+        drawer.openOnEdge(drawer.preferredEdge());
+    }
+}
+
+void Drawers::closeForKeyPad(std::function<void()> whenClosed) {
+    for (Drawer& drawer : drawers_) {
+        drawer.wasOpen = drawer.record.isOpenOrOpening();
+    }
+    whenClosed_ = std::move(whenClosed);
+    if (areClosed()) {
+        callWhenClosed();
+        return;
+    }
+    for (Drawer& drawer : drawers_) {
+        drawer.record.close();
+    }
+}
+
+void Drawers::callWhenClosed() { std::exchange(whenClosed_, nullptr)(); }
+
+void Drawers::comeBackWithKeyPad() {
+    whenClosed_ = nullptr;
+    for (Drawer& drawer : drawers_) {
+        if (drawer.wasOpen) {
+            drawer.record.openOnEdge(drawer.record.preferredEdge());
+        }
+    }
+}
+
+void Drawers::save(WindowState& state) const {
+    for (const SavedDrawer& saved : kSavedDrawers) {
+        const Drawer& drawer = (*this)[saved.name];
+        state.*saved.wasOpen = drawer.wasOpen;
+        state.*saved.state = drawer.record.state();
+    }
+}
+
+void Drawers::restoreWhatComesBack(const WindowState& state) {
+    for (const SavedDrawer& saved : kSavedDrawers) {
+        (*this)[saved.name].wasOpen = state.*saved.wasOpen;
+    }
+}
+
+void Drawers::restoreWhatIsOpen(const WindowState& state) {
+    if (layout_.keyPadHidden) {
+        return;
+    }
+    for (const SavedDrawer& saved : kSavedDrawers) {
+        NSDrawer& drawer = (*this)[saved.name].record;
+        const std::int32_t drawerState = state.*saved.state;
+        if (drawerState == NSDrawerOpeningState || drawerState == NSDrawerOpenState) {
+            drawer.openOnEdge(drawer.preferredEdge());
+        }
+    }
+}
+
+void Drawers::closeAtOnce() {
+    for (Drawer& drawer : drawers_) {
+        drawer.record.close();
+        drawer.record.finishSliding();
+    }
+}
+
+// A drag has ended when the mouse is up and the size comes a second time.
+NSSize Drawers::drawerWillResizeContentsToSize(NSDrawer& drawer, const NSSize& size) {
+    Drawer& dragged = of(drawer);
+    const bool isMouseUp = (mouse_.GetCurrentButtonState() & kPrimaryButton) == 0;
+    if (dragged.trackedView != nullptr) {
+        statusTexts_.untrack(*dragged.trackedView);
+    }
+    NSSize result = size;
+    if (isMouseUp && size == dragged.lastSize) {
+        result = slideDrawerToPositionsNearestTo(drawer, dragged.positions, size);
+    }
+    dragged.lastSize = result;
+    if (dragged.trackedView != nullptr) {
+        statusTexts_.track(*dragged.trackedView);
+    }
+    return result;
+}
+
+// A drawer that was dragged shut is whole the next time.
+void Drawers::drawerDidClose(NSDrawer& drawer) {
+    if (keyPadWaits() && areClosed()) {
+        callWhenClosed();
+    }
+    const bool isLevel = drawer.preferredEdge() % 2 == 1;
+    if ((isLevel ? drawer.contentSize().height : drawer.contentSize().width) == 0.0) {
+        drawer.setContentSize(drawer.maxContentSize());
+    }
+}
+
+void Drawers::drawerStateDidChange(NSDrawer& drawer) {
+    for (const DrawerName name : kDrawerNames) {
+        if (&(*this)[name].record == &drawer) {
+            views_.keyPad.drawerButton(name).setState(drawer.isOpenOrOpening() ? 1 : 0);
+        }
+    }
 }
 
 NSSize slideDrawerToPositionsNearestTo(NSDrawer& drawer, std::span<const double> positions,

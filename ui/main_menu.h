@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/NSMenu.h"
+#include "state/settings_table.h"
 
 namespace talvex {
 
@@ -10,9 +11,7 @@ class DYXWindowController;
 // outlive it. `validateMenu` brings check marks, titles and enabled states up to date.
 NSMenu mainMenu(DYXWindowController& controller);
 
-// The menus of the controls in the display.
-NSMenu outputModeMenu(DYXWindowController& controller);
-NSMenu inputModeMenu(DYXWindowController& controller);
-NSMenu angleModeMenu(DYXWindowController& controller);
+// The values of a setting, the present one with a check mark.
+NSMenu choicesMenu(DYXWindowController& controller, const SettingRow& setting);
 
 }  // namespace talvex

@@ -1,20 +1,13 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
 
 #include "platform/NSGeometry.h"
+#include "state/WindowLayout.h"
 #include "ui/key_pad_geometry.h"
 
 // Where things stand in the calculator window, in points.
 namespace talvex {
-
-// The three switches that choose one of six layouts.
-struct WindowLayout {
-    bool keyPadHidden = false;
-    std::int32_t displayViewMode = 0;  // 0 the X line alone, 1 all four lines
-    bool showStatusLine = false;
-};
 
 inline constexpr double kDisplayHeight = 41.0;
 inline constexpr double kThreeLinesHeight = 60.0;

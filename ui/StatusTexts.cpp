@@ -1,12 +1,11 @@
-// What the status lines tell about the control under the pointer.
+#include "ui/StatusTexts.h"
 
 #include <cmath>
 
-#include "core/Comand.h"
+#include "core/DYXCalculator.h"
 #include "display/ascii_text.h"
 #include "numeric/DYXnan.h"
 #include "numeric/decimal_text.h"
-#include "ui/DYXWindowController.h"
 #include "ui/simple_tex.h"
 
 namespace talvex {
@@ -36,7 +35,16 @@ NSAttributedString plainLine(const std::u16string& text) {
 
 }  // namespace
 
-std::optional<NSAttributedString> DYXWindowController::statusLineForView(const NSView& view) const {
+StatusTexts::StatusTexts(WindowViews& views, const HotKeys& hotKeys,
+                         const DYXCalculator& calculator, const Settings& settings,
+                         const BundlePort& titles)
+    : views_(views),
+      hotKeys_(hotKeys),
+      calculator_(calculator),
+      settings_(settings),
+      titles_(titles) {}
+
+std::optional<NSAttributedString> StatusTexts::statusLineForView(const NSView& view) const {
     const auto* const button = dynamic_cast<const CommandButton*>(&view);
     if (button == nullptr) {
         return std::nullopt;
@@ -47,10 +55,10 @@ std::optional<NSAttributedString> DYXWindowController::statusLineForView(const N
     };
     if (command.category == fourCC("memo") && character(0) == 'M') {
         const auto number = static_cast<unsigned>(10 * (character(2) - '0') + (character(3) - '0'));
-        if (number < mem().size()) {
+        if (number < calculator_.mem().size()) {
             return ZUStringExtensions::simpleTexSingleLine(
                 u"M_{" + asciiText(std::to_string(number)) + u"} = " +
-                valueText(mem()[number], platform()));
+                valueText(calculator_.mem()[number], titles_));
         }
     }
     if (command.category == fourCC("data") && character(0) == 'E' &&
@@ -61,39 +69,35 @@ std::optional<NSAttributedString> DYXWindowController::statusLineForView(const N
     return std::nullopt;
 }
 
-void DYXWindowController::takeStatusLinesEnabledFrom(const NSMenuItem& /*item*/) {
-    settings_.statusLinesEnabled = !settings_.statusLinesEnabled;
-    showStatusLines();
+std::array<DYXStatusLineView*, 4> StatusTexts::panels() const {
+    return {views_.constantsPanel.view.get(), views_.functionsPanel.view.get(),
+            views_.memoryPanel.view.get(), views_.keyPad.view().get()};
 }
 
-std::array<DYXStatusLineView*, 4> DYXWindowController::statusLineViews() const {
-    return {views_->constantsPanel.view.get(), views_->functionsPanel.view.get(),
-            views_->memoryPanel.view.get(), views_->keyPad.view().get()};
-}
-
-void DYXWindowController::showStatusLines() {
-    for (DYXStatusLineView* const view : statusLineViews()) {
-        view->setDelegate(this);
-        view->buildStatusLines(*hotKeys_);  // which takes the hints from the desktop
-        view->removeTrackingRects();
+void StatusTexts::showStatusLines() {
+    DYXTabView& tabView = *views_.conversionPanel.tabView;
+    for (DYXStatusLineView* const panel : panels()) {
+        panel->setDelegate(this);
+        panel->buildStatusLines(hotKeys_);  // which takes the hints from the desktop
+        panel->removeTrackingRects();
     }
-    views_->conversionPanel.tabView->setShowStatusLines(false);
+    tabView.setShowStatusLines(false);
     if (!settings_.statusLinesEnabled) {
-        for (DYXStatusLineView* const view : statusLineViews()) {
-            view->clearStatusField();
+        for (DYXStatusLineView* const panel : panels()) {
+            panel->clearStatusField();
         }
-        views_->conversionPanel.tabView->clearStatusField();
+        tabView.clearStatusField();
         return;
     }
-    for (DYXStatusLineView* const view : statusLineViews()) {
-        view->addTrackingRects(*hotKeys_);
+    for (DYXStatusLineView* const panel : panels()) {
+        panel->addTrackingRects(hotKeys_);
     }
-    views_->conversionPanel.tabView->setShowStatusLines(true);
+    tabView.setShowStatusLines(true);
 }
 
-void DYXWindowController::trackKeyPad() {
+void StatusTexts::track(DYXStatusLineView& view) const {
     if (settings_.statusLinesEnabled) {
-        views_->keyPad.view()->addTrackingRects(*hotKeys_);
+        view.addTrackingRects(hotKeys_);
     }
 }
 
