@@ -46,11 +46,12 @@ struct Corpora {
 // The bytes that make `display_fuzz` show the row.
 std::string displayInput(const FormatTable& table, const Row& row) {
     std::string bytes;
-    append(bytes, static_cast<std::uint8_t>(table.mode));
+    append(bytes, static_cast<std::uint8_t>(table.settings.outputMode));
     append(bytes, row.digits * 4 + 1);
-    const FormatStyle& style = table.style;
-    for (const int choice : {style.point == u'.' ? 0 : 1, 1, 1, 3, style.reducesFractions ? 0 : 1,
-                             style.displaysIrrationals ? 0 : 1, 0}) {
+    const LineSettings& settings = table.settings;
+    for (const int choice :
+         {settings.decimalSeparator == u'.' ? 0 : 1, 1, 1, 3,
+          settings.reduceCarpentryFractions ? 0 : 1, settings.displayIrrationals ? 0 : 1, 0}) {
         append(bytes, static_cast<std::uint8_t>(choice));
     }
     append(bytes, row.number);
@@ -62,7 +63,7 @@ void addModes(Corpora& corpora) {
         for (const Row& row : table.rows) {
             corpora.add("display_fuzz", displayInput(table, row));
             std::string text;
-            append(text, static_cast<std::int8_t>(table.mode));
+            append(text, static_cast<std::int8_t>(table.settings.outputMode));
             append(text, std::uint8_t{0});
             append(text, row.number);
             corpora.add("text_fuzz", text + shortestText(row.number));
@@ -86,8 +87,8 @@ void addExamples(Corpora& corpora, const fs::path& templates) {
             std::istringstream words(page.substr(keys, page.find('|', keys) - keys));
             std::string actions;
             for (std::string word; words >> word;) {
-                for (const std::u16string& command : caps.step(word).commands) {
-                    appendCommand(actions, command);
+                for (const Comand& command : caps.step(word).commands) {
+                    appendCommand(actions, stringFromCommand(command));
                 }
             }
             corpora.add("calculator_fuzz", actions);

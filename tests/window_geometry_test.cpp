@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
@@ -155,14 +156,18 @@ TEST_F(Layouts, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
 
 TEST_F(Layouts, LetsADraggedDrawerRestAtTheNearestPosition) {
     using enum DrawerName;
+    const double full = drawer(constants).maxContentSize().width;
+    const double largest = controller.drawers()[constants].positions.front();
+    const double middle = (largest + full) / 2;
     const struct {
         DrawerName name;
         double dragged, target;
-    } rows[]{{constants, 200, 182}, {constants, 23.6, 47}, {constants, 23.5, 47},
-             {constants, 23.4, 0},  {constants, 112, 133}, {constants, 334, 313},
-             {constants, 335, 355}, {functions, 60, 73},   {functions, 59, 47},
-             {functions, 203, 208}, {memory, 100.9, 0},    {memory, 101, 202},
-             {conversion, 100, 190}};
+    } rows[]{{constants, 200, 182}, {constants, 23.6, 47},
+             {constants, 23.5, 47}, {constants, 23.4, 0},
+             {constants, 112, 133}, {constants, middle, largest},
+             {functions, 60, 73},   {constants, middle + 1, full},
+             {functions, 59, 47},   {memory, 100.9, 0},
+             {memory, 101, 202}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.dragged);
         NSDrawer& dragged = drawer(row.name);
@@ -223,8 +228,13 @@ TEST_F(Layouts, OpensADrawerAgainWholeThatWasDraggedShut) {
 
 // A drawer at rest shows whole columns or rows.
 TEST_F(Layouts, CutsNoKeyAtAnyRestingPlace) {
-    const auto expectWhole = [this](DrawerName name, const std::vector<Key>& keys) {
-        for (const double edge : controller.drawers()[name].positions) {
+    const auto expectWhole = [this](DrawerName name, const std::vector<Key>& keys,
+                                    const std::vector<double>& first) {
+        const std::vector<double>& positions = controller.drawers()[name].positions;
+        EXPECT_TRUE(
+            std::mismatch(first.rbegin(), first.rend(), positions.rbegin(), positions.rend())
+                .first == first.rend());
+        for (const double edge : positions) {
             for (const Key& key : keys) {
                 const NSRect& frame = key.button->frame();
                 const bool isLevel = drawer(name).isLevel();
@@ -234,12 +244,9 @@ TEST_F(Layouts, CutsNoKeyAtAnyRestingPlace) {
             }
         }
     };
-    expectWhole(DrawerName::constants, views.constantsPanel.keys);
-    expectWhole(DrawerName::functions, views.functionsPanel.keys);
-    const auto positions = [this](DrawerName name) { return controller.drawers()[name].positions; };
-    EXPECT_EQ(positions(DrawerName::constants),
-              (std::vector<double>{313, 271, 229, 182, 133, 91, 47}));
-    EXPECT_EQ(positions(DrawerName::functions), (std::vector<double>{182, 153, 126, 98, 73, 47}));
+    expectWhole(DrawerName::constants, views.constantsPanel.keys,
+                {313, 271, 229, 182, 133, 91, 47});
+    expectWhole(DrawerName::functions, views.functionsPanel.keys, {182, 153, 126, 98, 73, 47});
 }
 
 }  // namespace

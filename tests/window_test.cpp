@@ -94,24 +94,24 @@ TEST_F(Window, HasSixLayoutsToThePixel) {
 
 TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
     constexpr std::array<QPoint, 4> kOutward{{{-1, 0}, {0, 1}, {1, 0}, {0, -1}}};  // of the edges
+    constexpr double kAll = 1e9;
     const struct {
         DrawerName name;
-        QPoint way;
-        NSSize rest;
-    } rows[]{{DrawerName::memory, {-150, 0}, {0, 169}},
-             {DrawerName::memory, {-60, 0}, {202, 169}},
-             {DrawerName::constants, {155, 0}, {182, 169}},
-             {DrawerName::functions, {0, -148}, {381, 73}},
-             {DrawerName::conversion, {0, 20}, {381, 190}},
-             {DrawerName::conversion, {0, 160}, {381, 0}}};
+        int dragged;
+        double rest;
+    } rows[]{{DrawerName::memory, 52, 0},         {DrawerName::memory, 142, kAll},
+             {DrawerName::constants, 200, 182},   {DrawerName::functions, 60, 73},
+             {DrawerName::conversion, 170, kAll}, {DrawerName::conversion, 30, 0}};
     for (const auto& row : rows) {
         NSDrawer& record = drawer(row.name);
         SCOPED_TRACE(static_cast<int>(row.name));
         open(row.name);
         DrawerWidget* const widget = widgetOf(record);
         ASSERT_NE(widget, nullptr);
-        const double depth =
-            record.isLevel() ? record.contentSize().height : record.contentSize().width;
+        double NSSize::*const moved = record.isLevel() ? &NSSize::height : &NSSize::width;
+        NSSize rest = record.contentSize();
+        const double depth = rest.*moved;
+        rest.*moved = std::min(row.rest, depth);
         EXPECT_TRUE(QTest::qWaitFor([&] {
             const QSize shown = widget->visibleRect().size();
             return (record.isLevel() ? shown.height() : shown.width()) == std::lround(8.0 + depth);
@@ -120,6 +120,7 @@ TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
         const QPoint outward = kOutward.at(static_cast<std::size_t>(record.edge()));
         const QPoint grip = shown.center() + QPoint(outward.x() * (shown.width() / 2 - 3),
                                                     outward.y() * (shown.height() / 2 - 3));
+        const QPoint way = outward * (row.dragged - static_cast<int>(depth));
         const auto mouse = [&](QEvent::Type type, const QPoint& place, Qt::MouseButtons buttons) {
             QMouseEvent event(type, widget->mapFrom(&window, place), window.mapToGlobal(place),
                               Qt::LeftButton, buttons, {});
@@ -127,11 +128,11 @@ TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
         };
         platform.mouseButtons = 1;
         mouse(QEvent::MouseButtonPress, grip, Qt::LeftButton);
-        mouse(QEvent::MouseMove, grip + row.way / 2, Qt::LeftButton);
-        mouse(QEvent::MouseMove, grip + row.way, Qt::LeftButton);
+        mouse(QEvent::MouseMove, grip + way / 2, Qt::LeftButton);
+        mouse(QEvent::MouseMove, grip + way, Qt::LeftButton);
         platform.mouseButtons = 0;
-        mouse(QEvent::MouseButtonRelease, grip + row.way, Qt::NoButton);
-        EXPECT_EQ(record.contentSize(), row.rest);
+        mouse(QEvent::MouseButtonRelease, grip + way, Qt::NoButton);
+        EXPECT_EQ(record.contentSize(), rest);
         controller.drawers().toggleDrawer(row.name);
         EXPECT_TRUE(QTest::qWaitFor([&] { return record.state() == NSDrawerClosedState; }));
         EXPECT_TRUE(widget->visibleRect().isEmpty());

@@ -18,6 +18,7 @@ constexpr int kFirstTab = 1;
 
 DYXWindowController::DYXWindowController(Platform& platform)
     : platform_(platform),
+      system_(platform.numberFormat()),
       views_(platform, hotKeys_),
       calculator_(std::make_unique<DYXCalculator>(platform, views_.xFields)),
       controls_(views_, hotKeys_, *calculator_),
@@ -129,16 +130,15 @@ void DYXWindowController::choose(const SettingRow& setting, std::int32_t value) 
 }
 
 void DYXWindowController::refresh() {
-    const NSNumberFormat system = platform_.numberFormat();
     calculator_->setAngleMode(settings_.angleMode);
     calculator_->setUseHPStylePowerAndLogs(settings_.useHPStylePowerAndLogs);
     DYXInputDisplay& line = calculator_->xDisplay();
     line.setInputSettings({.inputMode = settings_.inputDisplayMode,
                            .unlockInputAndOutputModes = settings_.unlockInputAndOutputModes});
-    line.setSettings(lineSettingsOf(settings_, system));
+    line.setSettings(lineSettingsOf(settings_, system_));
     line.setTextFont(lineFontOf(settings_));
     calculator_->syncDisplays();
-    controls_.showSettings(settings_, decimalSeparatorOf(settings_, system));
+    controls_.showSettings(settings_, decimalSeparatorOf(settings_, system_));
     controls_.showLabels(settings_, layout_);
     calculator_->updateDisplay();
 }
@@ -146,8 +146,13 @@ void DYXWindowController::refresh() {
 void DYXWindowController::revertDocumentToSaved() {
     clipboard_.giveUpPaste();
     session_.loadData();
-    refresh();
+    applicationWillBecomeActive();
     statusTexts_.showStatusLines();
+}
+
+void DYXWindowController::applicationWillBecomeActive() {
+    system_ = platform_.numberFormat();
+    refresh();
 }
 
 void DYXWindowController::applicationWillTerminate() {

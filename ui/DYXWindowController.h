@@ -55,7 +55,7 @@ class DYXWindowController final : public NSResponder {
 
     // Gives a setting a value, and brings up to date what depends on it.
     void choose(const SettingRow& setting, std::int32_t value);
-    // Brings all up to date that depends on settings, the layout or the system.
+    // Brings all up to date that depends on settings, the layout or the system's numbers.
     void refresh();
 
     // Puts back what was saved last.
@@ -63,8 +63,8 @@ class DYXWindowController final : public NSResponder {
     void revertDocumentToSaved();
     [[nodiscard]] bool hasSavedFrame() const { return session_.hasSavedFrame(); }
 
-    // The program comes to the front: the system's separator may have changed.
-    void applicationWillBecomeActive() { refresh(); }
+    // The program comes to the front: the system's way to write numbers may have changed.
+    void applicationWillBecomeActive();
     // Asks the desktop to end the program; and it ends: a live entry is finished as by ENTER, and
     // the state saved.
     void terminate() { platform_.terminate(); }
@@ -82,6 +82,7 @@ class DYXWindowController final : public NSResponder {
     [[nodiscard]] HotKeyState hotKeyState() const;
 
     Platform& platform_;
+    NSNumberFormat system_;
     Settings settings_;
     WindowLayout layout_;
     HotKeys hotKeys_;
