@@ -15,8 +15,8 @@ constexpr int kWrongUsage = 2;
 constexpr auto kHelp = R"(Usage: talvex [OPTION]...
 Scientific calculator in Reverse Polish notation. F1 opens the help, F10 the menu.
 
-  -h, --help      Tell what options there are, and exit.
-  -v, --version   Tell the version, and exit.
+  -h, --help      Show the options, and exit.
+  -v, --version   Show the version, and exit.
   -display NAME   Open the window on the X server NAME.
   -platform NAME  Open the window by way of xcb or wayland, instead of the first that is there.
   -style NAME     Draw menus and the help in a style of the toolkit, such as fusion or windows.
@@ -76,7 +76,7 @@ std::size_t takenByToolkit(std::string_view argument) {
     return option->value == Value::none || isBehindEqualSign ? 1 : 2;
 }
 
-int tell(const char* text) {
+int say(const char* text) {
     const bool isWritten = std::fputs(text, stdout) >= 0 && std::fflush(stdout) == 0;
     return isWritten ? EXIT_SUCCESS : EXIT_FAILURE;
 }
@@ -87,15 +87,15 @@ std::optional<int> answerCommandLine(std::span<const char* const> arguments) {
     for (std::size_t index = 1; index < arguments.size();) {
         const std::string_view argument = arguments[index];
         if (argument == "-h" || argument == "--help") {
-            return tell(kHelp);
+            return say(kHelp);
         }
         if (argument == "-v" || argument == "--version") {
-            return tell(kVersion);
+            return say(kVersion);
         }
         const std::size_t count = takenByToolkit(argument);
         if (count == 0 || index + count > arguments.size()) {
             const std::string sentence = "talvex: there is no option \"" + std::string(argument) +
-                                         "\"; talvex --help tells what options there are\n";
+                                         "\"; talvex --help shows the options\n";
             std::fputs(sentence.c_str(), stderr);
             return kWrongUsage;
         }

@@ -36,7 +36,7 @@ int main(int argc, char** argv) {
     if (const auto status = talvex::answerCommandLine({argv, static_cast<std::size_t>(argc)})) {
         return *status;
     }
-    // A drawer needs to know where the window stands, which only X11 tells.
+    // A drawer needs to know where the window stands, which only X11 says.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
     }

@@ -33,7 +33,6 @@ class DYXInputDisplay final : public DYXOutputDisplay {
     [[nodiscard]] bool unlockInputAndOutputModes() const {
         return input_.unlockInputAndOutputModes;
     }
-    void setUnlockInputAndOutputModes(bool unlock) { input_.unlockInputAndOutputModes = unlock; }
     [[nodiscard]] std::int32_t effectiveOutputMode() const override;
     // The title of `inputMode`; "???" outside 0 to 12.
     [[nodiscard]] std::u16string inputModeTitle() const;

@@ -21,7 +21,7 @@ namespace talvex {
 class PageMaker {
   public:
     // The finished page; nothing if the template asks for something that there isn't, which
-    // `complaint` then tells.
+    // `complaint` then says.
     std::optional<std::string> make(std::string_view page);
 
     [[nodiscard]] const std::string& complaint() const { return complaint_; }

@@ -7,7 +7,7 @@
 
 namespace talvex {
 
-// What the help tells about a function besides its name: for which numbers it has a meaning, and
+// What the help says about a function besides its name: for which numbers it has a meaning, and
 // what it shows where it has none.
 struct FunctionNote {
     Comand command;

@@ -49,7 +49,7 @@ bool isOnPad(const KeyCaps& caps, const KeyCaps::Cap& cap) {
     return static_cast<std::size_t>(&cap - caps.all().data()) < rows.size();
 }
 
-// The keys are told in signs, of which Clear and the backspace share one.
+// The keys are written as signs, of which Clear and the backspace share one.
 std::u16string hotKeyText(const KeyCaps& caps, const KeyCaps::Cap& cap) {
     for (const HotKey& row : caps.hotKeys().rows()) {
         if (row.command == cap.command && row.key == NSClearLineFunctionKey) {

@@ -61,7 +61,7 @@ class HotKeys {
     void followDecimalSeparator(char16_t separator);
 
     // All keys of a command as a text such as "[s]" or "[\u23CE|\u2324]", in the mark-up of status
-    // texts; empty if no key that can be told in a text has it.
+    // texts; empty if no key that a text can name has it.
     [[nodiscard]] std::u16string hotKeyStringForCommand(const Comand& command) const;
 
     [[nodiscard]] std::span<const HotKey> rows() const { return rows_; }
@@ -71,7 +71,7 @@ class HotKeys {
 };
 
 // The key of a row with its modifier keys, in the mark-up of status texts; empty for the rows whose
-// conditions no single key combination tells.
+// conditions no single key combination meets.
 [[nodiscard]] std::u16string stringForHotKey(const HotKey& hotKey);
 
 // The character that shows a key; printable keys show as themselves.

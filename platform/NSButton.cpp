@@ -16,20 +16,9 @@ void NSButton::setImage(std::u16string name) { update(image_, std::move(name)); 
 
 void NSButton::setAlternateImage(std::u16string name) { update(alternateImage_, std::move(name)); }
 
-void NSButton::setImagePosition(NSImagePosition position) { update(imagePosition_, position); }
-
 void NSButton::setState(int state) { update(state_, state); }
 
 void NSButton::setFont(const NSFont& font) { update(font_, font); }
-
-bool NSButton::performKeyEquivalent(const NSEvent& event) {
-    const bool isMine =
-        !keyEquivalent_.empty() && event.charactersIgnoringModifiers == keyEquivalent_;
-    if (isMine) {
-        performClick();
-    }
-    return isMine;
-}
 
 void NSButton::performClick() {
     if (toggles_) {

@@ -10,8 +10,6 @@
 
 namespace talvex {
 
-enum class NSImagePosition { noImage = 0, imageOnly = 1 };
-
 // How a button shows that it is pressed or on; flags to be combined.
 enum NSCellMask : std::uint32_t {
     NSNoCellMask = 0,
@@ -37,8 +35,6 @@ class NSButton : public NSView {
     void setImage(std::u16string name);
     [[nodiscard]] const std::u16string& alternateImage() const { return alternateImage_; }
     void setAlternateImage(std::u16string name);
-    [[nodiscard]] NSImagePosition imagePosition() const { return imagePosition_; }
-    void setImagePosition(NSImagePosition position);
 
     // 1 on, 0 off.
     [[nodiscard]] int state() const { return state_; }
@@ -56,12 +52,6 @@ class NSButton : public NSView {
     [[nodiscard]] bool toggles() const { return toggles_; }
     void setToggles(bool toggles) { toggles_ = toggles; }
 
-    // The keystroke that clicks the button; none if empty.
-    [[nodiscard]] const std::u16string& keyEquivalent() const { return keyEquivalent_; }
-    void setKeyEquivalent(std::u16string key) { keyEquivalent_ = std::move(key); }
-    // Clicks the button if the event is its keystroke, and answers whether it was.
-    virtual bool performKeyEquivalent(const NSEvent& event);
-
     void setAction(std::function<void(NSButton&)> action) { action_ = std::move(action); }
     // The mouse went down on the button, before any click.
     virtual void mouseDown() {}
@@ -72,13 +62,11 @@ class NSButton : public NSView {
     NSAttributedString attributedTitle_;
     std::u16string image_;
     std::u16string alternateImage_;
-    NSImagePosition imagePosition_ = NSImagePosition::noImage;
     int state_ = 0;
     NSFont font_{.name = u"Lucida Grande", .size = 11.0};
     std::uint32_t highlightsBy_ = NSPushInCellMask;
     std::uint32_t showsStateBy_ = NSNoCellMask;
     bool toggles_ = false;
-    std::u16string keyEquivalent_;
     std::function<void(NSButton&)> action_;
 };
 

@@ -9,7 +9,7 @@ namespace talvex {
 
 class NSDrawer;
 
-// The side of a rectangle, by the numbers that tell an upright one from a level one: odd edges are
+// The side of a rectangle, by numbers: odd edges are
 // level, and what moves there is a height.
 enum NSRectEdge : int { NSMinXEdge = 0, NSMinYEdge = 1, NSMaxXEdge = 2, NSMaxYEdge = 3 };
 
@@ -64,16 +64,13 @@ class NSDrawer {
 
     [[nodiscard]] NSRectEdge edge() const { return edge_; }
     [[nodiscard]] NSRectEdge preferredEdge() const { return preferredEdge_; }
-    void setPreferredEdge(NSRectEdge edge) { preferredEdge_ = edge; }
     // Whether the drawer moves by its height.
     [[nodiscard]] bool isLevel() const { return edge_ % 2 == 1; }
 
     [[nodiscard]] const NSSize& contentSize() const { return contentSize_; }
     void setContentSize(const NSSize& size);
     [[nodiscard]] const NSSize& minContentSize() const { return minContentSize_; }
-    void setMinContentSize(const NSSize& size) { minContentSize_ = size; }
     [[nodiscard]] const NSSize& maxContentSize() const { return maxContentSize_; }
-    void setMaxContentSize(const NSSize& size) { maxContentSize_ = size; }
     // The user drags the outer edge: the content takes the size within its bounds that the
     // delegate allows.
     void dragContentsToSize(const NSSize& size);

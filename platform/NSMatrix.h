@@ -39,9 +39,7 @@ class NSMatrix : public NSView {
     void setCellAt(int row, int column, NSButtonCell cell);
     void setStateOfAllCells(int state);
 
-    [[nodiscard]] const NSSize& cellSize() const { return cellSize_; }
     void setCellSize(const NSSize& size) { update(cellSize_, size); }
-    [[nodiscard]] const NSSize& intercellSpacing() const { return intercellSpacing_; }
     void setIntercellSpacing(const NSSize& spacing) { update(intercellSpacing_, spacing); }
     // The place of a cell within the matrix.
     [[nodiscard]] NSRect cellFrame(int row, int column) const;

@@ -15,7 +15,8 @@ class NSView;
 class NSWindow;
 struct NSEvent;
 
-// Who draws a record. A record tells its one observer that it changed and knows nothing else of it.
+// Who draws a record. A record calls its one observer when it changes, and knows nothing else of
+// it.
 class NSViewObserver {
   public:
     virtual void viewDidChange(const NSView& view) = 0;
@@ -83,8 +84,9 @@ class NSView {
     // The window that the view is in, if it is in one.
     [[nodiscard]] NSWindow* window() const;
 
-    // Tells the owner when the pointer enters and leaves the rectangle, with the data given here.
-    // The tag names the rectangle. The pointer counts as outside at first unless told otherwise.
+    // Calls the owner when the pointer enters and leaves the rectangle, with the data given here.
+    // The tag names the rectangle. The pointer counts as outside at first unless `assumeInside`
+    // says otherwise.
     int addTrackingRect(const NSRect& rect, NSTrackingOwner& owner, const void* userData,
                         bool assumeInside);
     void removeTrackingRect(int tag);
@@ -104,7 +106,7 @@ class NSView {
     virtual void drawRect(NSGraphicsContext& context) const;
 
   protected:
-    // Stores a value and tells the observer if it was another one.
+    // Stores a value, and calls the observer if it was another one.
     template <class Value>
     void update(Value& field, Value value) {
         if (!(field == value)) {

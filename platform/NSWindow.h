@@ -10,7 +10,7 @@ namespace talvex {
 
 struct NSEvent;
 
-// What a window's content hands on, the keys and the modifier keys, and what the window tells.
+// What a window's content hands on, the keys and the modifier keys, and what the window reports.
 class NSResponder {
   public:
     // Whether the key was taken.

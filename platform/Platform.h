@@ -22,7 +22,7 @@ class AlertPort {
 
 class NotificationPort {
   public:
-    // Tells the user, in UTF-8, what went wrong; also while the program ends.
+    // Shows the user, in UTF-8, what went wrong; also while the program ends.
     virtual void deliverNotification(const std::string& text) = 0;
 
   protected:
@@ -120,7 +120,7 @@ class MousePort {
 
 class WorkspacePort {
   public:
-    // Hands the URL to the user's own program for it; a failure isn't told.
+    // Hands the URL to the user's own program for it; a failure isn't reported.
     virtual void openURL(const std::u16string& url) = 0;
 
   protected:

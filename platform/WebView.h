@@ -24,7 +24,7 @@ class WebPolicyDecisionListener {
     ~WebPolicyDecisionListener() = default;
 };
 
-// The record of a view of web pages: the page that it was told to load, and how many steps its text
+// The record of a view of web pages: the page that it has to load, and how many steps its text
 // stands above the normal size, within the range of the view.
 class WebView {
   public:

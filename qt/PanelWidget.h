@@ -9,7 +9,7 @@
 
 namespace talvex {
 
-// A field that tells what the key under the pointer does.
+// A field that says what the key under the pointer does.
 class StatusFieldWidget final : public QLabel {
   public:
     // The parent stands for the view `within`, or else for the field's superview.

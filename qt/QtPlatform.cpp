@@ -61,7 +61,7 @@ QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::NSBeep() { QApplication::beep(); }
 
-// A bus that hangs would hold up the program; so another process talks to it. Where none is told,
+// A bus that hangs would hold up the program; so another process talks to it. Where none is named,
 // the library would start one.
 void QtPlatform::deliverNotification(const std::string& text) {
     std::fprintf(stderr, "talvex: %s\n", text.c_str());
@@ -115,7 +115,7 @@ void QtPlatform::setPasteboardString(const std::u16string& text) {
 }
 
 // The toolkit's own answer holds only for names that are UTF-8, and is the root of all files where
-// no folder is told.
+// no folder is named.
 std::string QtPlatform::NSHomeDirectory() const {
     const QByteArray home = qgetenv("HOME");
     return home.startsWith('/') ? home.toStdString() : std::string();

@@ -52,9 +52,9 @@ void WindowPlace::followRecord() {
 
 void WindowPlace::tellRecord() {
     const QPoint corner = present() + body_().topLeft();
-    const QRect told = onScreen(record_.frame());
-    if (told.topLeft() != corner) {
-        record_.setFrame(talvex::placeOfRecord({corner, told.size()}));
+    const QRect known = onScreen(record_.frame());
+    if (known.topLeft() != corner) {
+        record_.setFrame(talvex::placeOfRecord({corner, known.size()}));
     }
 }
 

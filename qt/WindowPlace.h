@@ -10,7 +10,7 @@
 
 namespace talvex {
 
-// Where the calculator stands on the screen: at the place that its record tells, where it can be
+// Where the calculator stands on the screen: at the place that its record gives, where it can be
 // seen, and aside for as long as a drawer needs the room.
 class WindowPlace {
   public:

@@ -13,8 +13,8 @@ namespace talvex {
 // with Control and Alt not. Nothing for modifier keys and for keys without a character.
 [[nodiscard]] std::optional<char16_t> characterOfKey(const QKeyEvent& event);
 
-// Which modifier keys are down, told from key events and not from the state that comes with them,
-// which is wrong while both keys of a pair are held.
+// Which modifier keys are down, worked out from key events and not from the state that comes with
+// them, which is wrong while both keys of a pair are held.
 class HeldModifiers {
   public:
     // Takes the press or release of any key, which also says which modifiers it comes with, and

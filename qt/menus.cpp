@@ -58,7 +58,7 @@ void pullDownMenu(NSMenu& record, QAbstractButton& button) {
     const auto* const menu = button.findChild<QMenu*>();
     QObject::connect(menu, &QMenu::aboutToHide, &button, [&button] {
         button.setDown(false);
-        // The menu had the mouse: nothing has told the button that it left.
+        // The menu had the mouse: the button doesn't know that it left.
         const bool isUnderMouse = button.rect().contains(button.mapFromGlobal(QCursor::pos()));
         button.setAttribute(Qt::WA_UnderMouse, isUnderMouse);
     });

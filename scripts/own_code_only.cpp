@@ -1,6 +1,6 @@
 // A plug-in of clang-tidy: its checks look only at what stands in the project's own files. They
 // would walk through all headers of others, once for each check, which takes two thirds of the time
-// and finds nothing to tell.
+// and finds nothing to report.
 
 #include <clang/AST/ASTConsumer.h>
 #include <clang/AST/ASTContext.h>

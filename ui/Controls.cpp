@@ -90,7 +90,6 @@ void Controls::showDecimalSeparator(char16_t separator) {
     button.setImage(separator == u'.'   ? u"pointSmall.tiff"
                     : separator == u',' ? u"commaSmall.tiff"
                                         : u"");
-    button.setImagePosition(hasImage ? NSImagePosition::imageOnly : NSImagePosition::noImage);
     hotKeys_.followDecimalSeparator(separator);
     button.setToolTip(button.accessibilityLabel());
     views_.keyPad.view()->renewStatusLine(button, hotKeys_);
@@ -100,9 +99,7 @@ void Controls::showPowerAndLogs(bool useHPStyle) {
     NSButton& power = views_.keyPad.button(command("bina", "^   "));
     NSButton& logarithm = views_.keyPad.button(command("bina", "~   "));
     power.setImage(useHPStyle ? u"powyxSmall.tiff" : u"powxySmall.tiff");
-    power.setImagePosition(NSImagePosition::imageOnly);
     logarithm.setImage(useHPStyle ? u"lnyxSmall.tiff" : u"lnxySmall.tiff");
-    logarithm.setImagePosition(NSImagePosition::imageOnly);
 }
 
 void Controls::showLabels(const Settings& settings, const WindowLayout& layout) {

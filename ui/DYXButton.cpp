@@ -34,8 +34,4 @@ void DYXButton::mouseDown() {
     NSButton::mouseDown();
 }
 
-bool DYXButton::performKeyEquivalent(const NSEvent& event) {
-    return event.type != NSKeyUp && NSButton::performKeyEquivalent(event);
-}
-
 }  // namespace talvex

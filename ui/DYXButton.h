@@ -44,8 +44,6 @@ class DYXButton : public CommandButton {
 
     // Writes a line to the log.
     void mouseDown() override;
-    // A key that goes up is no keystroke.
-    bool performKeyEquivalent(const NSEvent& event) override;
 
   private:
     LogPort& log_;

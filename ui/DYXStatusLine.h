@@ -21,7 +21,6 @@ class DYXStatusLine {
     explicit DYXStatusLine(NSView& view) : view_(&view) {}
 
     [[nodiscard]] NSView& view() const { return *view_; }
-    void setView(NSView& view) { view_ = &view; }
     // Of the tracking rectangle while there is one.
     [[nodiscard]] int tag() const { return tag_; }
     void setTag(int tag) { tag_ = tag; }
@@ -42,7 +41,7 @@ class DYXStatusLineTracker : public NSTrackingOwner {
     [[nodiscard]] NSTextField* statusField() const { return statusField_.get(); }
     void setStatusField(std::shared_ptr<NSTextField> field) { statusField_ = std::move(field); }
 
-    // What is told for a record; its own text unless somebody knows better.
+    // What is said of a record; its own text unless somebody knows better.
     [[nodiscard]] virtual NSAttributedString stringForStatusLine(const DYXStatusLine& line) const {
         return line.statusString();
     }
@@ -57,7 +56,7 @@ class DYXStatusLineTracker : public NSTrackingOwner {
 
     // One rectangle for each record, however often it is asked for.
     void install(const DYXStatusLines& lines);
-    // What is told about one of the records goes with its rectangle: nobody would hear of the
+    // What is said of one of the records goes with its rectangle: nobody would hear of the
     // pointer leaving it.
     void uninstall(const DYXStatusLines& lines);
 

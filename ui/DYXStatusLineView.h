@@ -17,7 +17,7 @@ class DYXStatusLineProtocol {
     ~DYXStatusLineProtocol() = default;
 };
 
-// A panel that tells in its status field what the control under the pointer does.
+// A panel whose status field says what the control under the pointer does.
 class DYXStatusLineView : public NSView, public DYXStatusLineTracker {
   public:
     using NSView::NSView;

@@ -10,7 +10,7 @@
 namespace talvex {
 
 // A tab view with a matrix of small buttons above it in place of tabs, numbered in reading order.
-// Its status field tells what the control under the pointer does.
+// Its status field says what the control under the pointer does.
 class DYXTabView : public NSTabView, public DYXStatusLineTracker {
   public:
     static constexpr double kTabHeight = 16.0;

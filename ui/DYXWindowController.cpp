@@ -11,7 +11,7 @@
 namespace talvex {
 namespace {
 
-// The tab of the conversion drawer where no saved state tells one.
+// The tab of the conversion drawer where there is no saved state.
 constexpr int kFirstTab = 1;
 
 }  // namespace

@@ -67,7 +67,6 @@ bool KeyPad::showHexDigits(bool show) {
         button.setTitle(std::u16string(show ? row.hexTitle : u""));
         button.setImage(std::u16string(show ? u"" : row.image));
         button.setAlternateImage(std::u16string(show ? u"" : row.alternateImage));
-        button.setImagePosition(show ? NSImagePosition::noImage : NSImagePosition::imageOnly);
         const std::u16string hint = titles_.localizedString(show ? row.hexHint : row.hint);
         button.setToolTip(hint);
         button.setAccessibilityLabel(hint);

@@ -65,7 +65,6 @@ void setActions(const std::vector<Key>& keys, const KeyAction& action) {
                 action(button.command());
             });
         }
-        key.button->setKeyEquivalent(u"");
     }
 }
 

@@ -35,7 +35,7 @@ std::u16string localizedTitle(std::u16string_view title, const BundlePort& title
 // The record of a key: of a command key its title is rich text, of the others it's plain.
 Key makeKey(const KeyDescription& description, Platform& platform);
 
-// Puts a field into the view that tells what the control under the pointer does.
+// Puts a field into the view that says what the control under the pointer does.
 void addStatusField(NSView& view, DYXStatusLineTracker& tracker, const NSRect& frame,
                     std::uint32_t autoresizingMask);
 

@@ -29,7 +29,7 @@ class SavedSession {
     // All have to outlive it.
     SavedSession(const SavedParts& parts, Platform& platform);
 
-    // The user is told of a save that fails.
+    // The user hears of a save that fails.
     void saveData();
     // What can't be read is passed over. Whoever shows settings has to be brought up to date then.
     void loadData();

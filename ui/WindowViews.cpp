@@ -63,7 +63,6 @@ std::shared_ptr<NSButton> makeTitleBarButton(double fromRight, const std::u16str
     button->setAutoresizingMask(NSViewMinXMargin | NSViewMinYMargin);
     button->setImage(image);
     button->setAlternateImage(alternateImage);
-    button->setImagePosition(NSImagePosition::imageOnly);
     button->setToolTip(accessibilityLabel);
     button->setAccessibilityLabel(std::move(accessibilityLabel));
     return button;

@@ -58,7 +58,7 @@ void appendEscaped(std::u16string& text, unsigned char byte) {
 std::span<const HelpPage> helpPages() { return kPages; }
 
 std::u16string helpPlaceOfCommand(const Comand& command) {
-    // What is told of one register or digit holds for all.
+    // What the help says of one register or digit holds for all.
     if (command.category == fourCC("memo") && characterOf(command.action, 0) == 'M') {
         return u"Memory#memoM000";
     }

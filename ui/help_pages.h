@@ -17,7 +17,7 @@ struct HelpPage {
 
 [[nodiscard]] std::span<const HelpPage> helpPages();
 
-// The page and the place in it that tell about a command, as "Functions#unitGSIN".
+// The page and the place in it that deal with a command, as "Functions#unitGSIN".
 [[nodiscard]] std::u16string helpPlaceOfCommand(const Comand& command);
 
 // The URL of a file, given by its path in UTF-8.
