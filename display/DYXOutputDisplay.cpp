@@ -1,5 +1,6 @@
 #include "display/DYXOutputDisplay.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -61,6 +62,8 @@ const DYXOutputDisplay::ModeRow& DYXOutputDisplay::rowOfMode(std::int32_t mode) 
         {.formatter = &Line::setBinaryTo},
         {.formatter = &Line::setFixedTo, .irrationals = Irrationals::always, .triesFraction = true},
     });
+    static_assert(std::all_of(kModes.begin(), kModes.end(),
+                              [](const ModeRow& row) { return row.formatter != nullptr; }));
     return kModes.at(static_cast<std::size_t>(mode));
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "state/DYXDataExtensions.h"
-#include "state/settings_table.h"
+#include "state/Settings.h"
 
 namespace talvex {
 namespace {

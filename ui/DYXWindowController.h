@@ -7,7 +7,7 @@
 
 #include "keyboard/HotKey.h"
 #include "platform/NSWindow.h"
-#include "state/settings_table.h"
+#include "state/Settings.h"
 #include "ui/Clipboard.h"
 #include "ui/Controls.h"
 #include "ui/Drawers.h"

@@ -10,14 +10,9 @@
 #include "platform/Platform.h"
 #include "state/SavedState.h"
 #include "ui/DYXStatusLineView.h"
+#include "ui/DrawerName.h"
 
 namespace talvex {
-
-// In the order in which drawers are handed over to the switch of the key pad.
-enum class DrawerName { memory, constants, conversion, functions };
-
-inline constexpr auto kDrawerNames = std::to_array<DrawerName>(
-    {DrawerName::memory, DrawerName::constants, DrawerName::conversion, DrawerName::functions});
 
 struct Drawer {
     Drawer(const std::shared_ptr<NSView>& content, NSRectEdge edge,

@@ -5,7 +5,7 @@
 
 #include "core/DYXCalculator.h"
 #include "display/utf8.h"
-#include "state/settings_table.h"
+#include "state/Settings.h"
 #include "ui/Drawers.h"
 #include "ui/HelpController.h"
 #include "ui/WindowGeometry.h"

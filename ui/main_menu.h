@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/NSMenu.h"
-#include "state/settings_table.h"
+#include "state/Settings.h"
 
 namespace talvex {
 

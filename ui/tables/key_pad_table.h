@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "ui/DYXButton.h"
-#include "ui/Drawers.h"
+#include "ui/DrawerName.h"
 
 namespace talvex {
 
