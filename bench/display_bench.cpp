@@ -34,9 +34,9 @@ void fourLines(benchmark::State& state, std::int32_t outputMode) {
     DYXWindowController calculator(platform);
     calculator.choose(settingRow<&Settings::unlockInputAndOutputModes>(), 1);
     calculator.choose(settingRow<&Settings::outputDisplayMode>(), outputMode);
-    CalculatorState state;
-    state.stack.reg = kHardNumbers;
-    calculator.calculator().setState(state);
+    CalculatorState hard;
+    hard.stack.reg = kHardNumbers;
+    calculator.calculator().setState(hard);
     const Comand rollDown{.category = fourCC("stac"), .action = fourCC("ROLD")};
     std::vector<double> seconds;
     for (auto _ : state) {

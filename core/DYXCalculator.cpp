@@ -190,15 +190,16 @@ void DYXCalculator::restore(const DYXStack& stack,
 }
 
 bool DYXCalculator::doCommandStack(const Comand& command) {
-    for (const StackRow& row : kStackMoves) {
-        if (row.action == command.action) {
-            updateRegister();
-            (now_.stack.*row.move)();
-            now_.inputState = InputState::lifting;
-            return true;
-        }
+    const auto* const row = std::find_if(
+        kStackMoves.begin(), kStackMoves.end(),
+        [&command](const StackRow& candidate) { return candidate.action == command.action; });
+    if (row == kStackMoves.end()) {
+        return false;
     }
-    return false;
+    updateRegister();
+    (now_.stack.*row->move)();
+    now_.inputState = InputState::lifting;
+    return true;
 }
 
 }  // namespace talvex

@@ -7,9 +7,9 @@
 #include <cstring>
 #include <string>
 
+#include "core/DYXCalculator.h"
 #include "fuzz_input.h"
 #include "numeric/decimal_text.h"
-#include "core/DYXCalculator.h"
 #include "platform/HeadlessPlatform.h"
 #include "ui/DYXWindowController.h"
 #include "ui/printed_number.h"
