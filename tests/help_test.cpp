@@ -1,7 +1,5 @@
 // The pages of the help: their examples, their links, and the window that shows them.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -14,19 +12,13 @@
 #include <utility>
 #include <vector>
 
-#include "core/DYXCalculator.h"
 #include "help/PageMaker.h"
 #include "help/function_notes.h"
-#include "platform/HeadlessPlatform.h"
-#include "ui/DYXWindowController.h"
 #include "ui/help_pages.h"
+#include "window_fixture.h"
 
 namespace talvex {
 namespace {
-
-bool isRegister(const Comand& command) {
-    return command.category == fourCC("memo") && characterOf(command.action, 0) == 'M';
-}
 
 namespace fs = std::filesystem;
 
@@ -49,27 +41,25 @@ TEST(HelpPages, HaveExamplesThatCalculateSo) {
     const KeyCaps caps;
     const std::regex example(R"(\{\{example:([^|]*)\|(.*?)\| *([^|}]*?) *\}\})");
     const std::regex thinSpace("\u2009");  // which may be typed as a plain one
-    const std::regex quote("\"");
-    std::size_t count = 0;
     for (const HelpPage& page : helpPages()) {
         const std::string text = textOf(kTemplates / fileOf(page));
+        EXPECT_EQ(matches(text, example).size(), matches(text, std::regex("example:")).size());
         for (const std::smatch& match : matches(text, example)) {
             SCOPED_TRACE(fileOf(page) + match.str());
             HeadlessPlatform platform;
-            DYXWindowController calculator(platform);
-            ASSERT_TRUE(applySettings(calculator, match.str(1)));
+            DYXWindowController controller(platform);
+            ASSERT_TRUE(applySettings(controller, match.str(1)));
             std::istringstream keys(match.str(2));
             for (std::string key; keys >> key;) {
-                press(calculator.calculator(), caps.step(key));
+                press(controller.calculator(), caps.step(key));
             }
-            calculator.calculator().updateDisplay();
-            EXPECT_EQ(std::regex_replace(htmlText(shownX(calculator.calculator())), thinSpace, " "),
-                      std::regex_replace(match.str(3), quote, "&quot;"));
+            controller.calculator().updateDisplay();
+            const std::string shown = htmlText(shownX(controller.calculator()));
+            EXPECT_EQ(std::regex_replace(shown, thinSpace, " "),
+                      std::regex_replace(match.str(3), std::regex("\""), "&quot;"));
             EXPECT_EQ(platform.beeps, 0);
-            ++count;
         }
     }
-    EXPECT_GT(count, 60U);
 }
 
 TEST(HelpPages, HaveLinksThatLeadSomewhere) {
@@ -96,19 +86,18 @@ TEST(HelpPages, HaveLinksThatLeadSomewhere) {
     }
     // The help on a key, for all keys that have a command.
     for (const KeyCaps::Cap& cap : maker.caps().all()) {
-        const std::u16string place = helpPlaceOfCommand(cap.command);
-        const std::string file =
-            "Help" + htmlText(std::u16string_view(place).substr(0, place.find(u'#'))) + ".html";
+        const std::string place = htmlText(helpPlaceOfCommand(cap.command));
+        const std::size_t hash = std::min(place.find('#'), place.size());
+        const std::string file = "Help" + place.substr(0, hash) + ".html";
         EXPECT_EQ(pages.count(file), 1U) << file;
-        const bool hasAnchor = place.find(u'#') != std::u16string::npos;
-        // What is told of one register holds for all.
-        const std::string anchor =
-            isRegister(cap.command) ? "memoM000" : htmlText(stringFromCommand(cap.command));
-        EXPECT_TRUE(!hasAnchor || anchors[file].count(anchor) == 1) << file << ' ' << anchor;
+        // What is said of one register holds for all.
+        const std::string command = htmlText(stringFromCommand(cap.command));
+        const std::string anchor = command.starts_with("memoM") ? "memoM000" : command;
+        EXPECT_TRUE(hash == place.size() || anchors[file].count(anchor) == 1) << file << anchor;
     }
 }
 
-TEST(HelpPages, TellOfEveryFunctionForWhichNumbersItIs) {
+TEST(HelpPages, SayOfEveryFunctionForWhichNumbersItIs) {
     std::set<std::u16string> noted;
     for (const FunctionNote& note : functionNotes()) {
         EXPECT_TRUE(noted.insert(stringFromCommand(note.command)).second);
@@ -116,24 +105,37 @@ TEST(HelpPages, TellOfEveryFunctionForWhichNumbersItIs) {
     const KeyCaps caps;
     for (const KeyCaps::Cap& cap : caps.all()) {
         const std::u16string text = stringFromCommand(cap.command);
-        const std::u16string category = text.substr(0, 4);
-        if (category == u"unit" || category == u"bina" || category == u"null") {
-            EXPECT_EQ(noted.count(text), 1U) << htmlText(text);
-        }
+        const bool isFunction =
+            text.starts_with(u"unit") || text.starts_with(u"bina") || text.starts_with(u"null");
+        EXPECT_TRUE(!isFunction || noted.contains(text)) << htmlText(text);
     }
 }
 
-class Help : public testing::Test {
+class Help : public WindowTest {
   protected:
-    [[nodiscard]] const std::u16string& url() const {
-        return controller.views().help.webView.requestedURL();
-    }
+    [[nodiscard]] const std::u16string& url() const { return view.requestedURL(); }
 
-    HeadlessPlatform platform;
-    DYXWindowController controller{platform};
-    NSWindow& window = controller.views().help.window;
-    WebView& view = controller.views().help.webView;
+    HelpController& help = controller.help();
+    NSWindow& window = views.help.window;
+    WebView& view = views.help.webView;
 };
+
+TEST_F(Help, SpeaksOfCommandsThatAreKnownAsAllTablesDo) {
+    std::vector<Comand> commands;
+    for (const Key& key : views.allKeys()) {
+        commands.push_back(key.button->command());
+    }
+    for (const HotKey& row : hotKeyRows()) {
+        commands.push_back(row.command);
+    }
+    for (const FunctionNote& note : functionNotes()) {
+        commands.push_back(note.command);
+    }
+    for (const Comand& command : commands) {
+        EXPECT_TRUE(command == Comand() || calculator.doCommand(command))
+            << testing::PrintToString(stringFromCommand(command));
+    }
+}
 
 class Decision final : public WebPolicyDecisionListener {
   public:
@@ -162,33 +164,33 @@ TEST_F(Help, ShowsItselfAtTheFirstStartAndTogglesAfterwards) {
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(url(), u"file:///resources/HelpStart.html");
     EXPECT_EQ(window.frame(), (NSRect{0, 0, 760, 1080}));
-    controller.help().takeToggleHelpWindowFrom();
+    help.takeToggleHelpWindowFrom();
     EXPECT_FALSE(window.isVisible());
-    controller.views().help.matrix->performClickAt(1, 0);
+    views.help.matrix->performClickAt(1, 0);
     view.loadRequest(u"elsewhere");
-    controller.help().takeToggleHelpWindowFrom();  // loads the selected page afresh
+    help.takeToggleHelpWindowFrom();  // loads the selected page afresh
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(url(), u"file:///resources/HelpStack.html");
-    controller.help().showFirstPage();
+    help.showFirstPage();
     EXPECT_EQ(url(), u"file:///resources/HelpStart.html");
     platform.resources = "/a b/\u00E4";
-    controller.help().showHelpFor(command("unit", "SQR "));
+    help.showHelpFor(command("unit", "SQR "));
     EXPECT_EQ(url(), u"file:///a%20b/%C3%A4/HelpFunctions.html#unitSQR%20");
-    EXPECT_EQ(controller.views().help.matrix->selectedRow(), 5);
+    EXPECT_EQ(views.help.matrix->selectedRow(), 5);
 }
 
 TEST_F(Help, CountsTheStepsOfItsText) {
     for (int step = 1; step < 20; ++step) {
-        controller.help().takeMakeHelpTextLargerFrom();
+        help.takeMakeHelpTextLargerFrom();
         EXPECT_EQ(view.textSteps(), std::min(step, WebView::kLargestText));
     }
-    controller.help().takeMakeHelpTextNormalFrom();
+    help.takeMakeHelpTextNormalFrom();
     EXPECT_EQ(view.textSteps(), 0);
-    controller.help().setHelpViewTextToSize(2'000'000'000);  // as a damaged file has it
+    help.setHelpViewTextToSize(2'000'000'000);  // as a damaged file has it
     EXPECT_EQ(view.textSteps(), WebView::kLargestText);
-    EXPECT_EQ(controller.help().textSize(), 2'000'000'000);
-    controller.help().setHelpViewTextToSize(-2'147'483'647 - 1);
-    controller.help().takeMakeHelpTextSmallerFrom();
+    EXPECT_EQ(help.textSize(), 2'000'000'000);
+    help.setHelpViewTextToSize(-2'147'483'647 - 1);
+    help.takeMakeHelpTextSmallerFrom();
     EXPECT_EQ(view.textSteps(), WebView::kSmallestText);
 }
 

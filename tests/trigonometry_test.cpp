@@ -36,7 +36,8 @@ constexpr struct AngleRow {
             {"DEG", AngleMode::deg, 90},
             {"GRD", AngleMode::grd, 100},
             {"HRS", AngleMode::hrs, 6},
-            {"REV", AngleMode::rev, 0.25}};
+            {"REV", AngleMode::rev, 0.25},
+            {"no mode, which counts as RAD", AngleMode{5}, 1.5707963267948966}};
 
 constexpr Checked kForward[]{DYXsin, DYXcos, DYXtan, DYXcsc, DYXsec, DYXcot};
 // What sin, cos, tan, csc, sec, cot are at an angle; of the sign of a zero only +0 will do.
