@@ -12,135 +12,138 @@
 #include "calculator_actions.h"
 
 namespace talvex {
+namespace {
 
-void RandomUser::moveFocus() {
-    const auto buttons = buttonsInSight();
-    buttons.empty() || oneIn(3) ? session_->window.setFocus() : anyOf(buttons)->setFocus();
+void moveFocus(RandomUser& user) {
+    const auto buttons = user.buttonsInSight();
+    buttons.empty() || user.oneIn(3) ? user.session->window.setFocus()
+                                     : user.anyOf(buttons)->setFocus();
 }
 
-void RandomUser::changeActivation() {
-    HelpWidget* const help = session_->help.widget();
-    QApplication::setActiveWindow(oneIn(3) ? nullptr
-                                  : help != nullptr && oneIn(3)
-                                      ? help
-                                      : static_cast<QWidget*>(&session_->window));
+void changeActivation(RandomUser& user) {
+    const std::array<QWidget*, 4> windows{nullptr, user.session->help.widget(),
+                                          &user.session->window, &user.session->window};
+    QApplication::setActiveWindow(user.anyOf(windows));
 }
 
-void RandomUser::changePalette() {
-    const bool isDark = oneIn(2);
-    QApplication::setPalette(QPalette(isDark ? QColor(0x2A, 0x2C, 0x30) : QColor(Qt::white)));
+void changePalette(RandomUser& user) {
+    QApplication::setPalette(QPalette(user.oneIn(2) ? QColor(0x2A2C30) : QColor(Qt::white)));
 }
 
 // A tiling window manager doesn't ask what sizes a window can have.
-void RandomUser::placeByDesktop() {
-    constexpr int kLargest = 3000;
-    QWindow& window = targetWindow();
-    const QPoint place(below(2 * kLargest) - kLargest, below(2 * kLargest) - kLargest);
-    const int largest = oneIn(3) ? 30 : kLargest;
-    switch (below(3)) {
-        case 0:
-            window.setPosition(place / 4);
-            break;
-        case 1:
-            window.setGeometry({place / 4, QSize(1 + below(largest), 1 + below(largest))});
-            break;
-        default:
-            window.setGeometry({window.position(), session_->window.minimumSize()});
-    }
+void placeByDesktop(RandomUser& user) {
+    QWindow& window = user.targetWindow();
+    const int largest = user.oneIn(3) ? 30 : 3000;
+    const QPoint place(user.below(1500) - 750, user.below(1500) - 750);
+    const QSize size(1 + user.below(largest), 1 + user.below(largest));
+    const std::array<QRect, 3> frames{QRect(place, window.size()), QRect(place, size),
+                                      QRect(window.position(), user.session->window.minimumSize())};
+    window.setGeometry(user.anyOf(frames));
 }
 
-void RandomUser::changeScreen() {
+void changeScreen(RandomUser& /*user*/) {
     QScreen* const screen = QGuiApplication::primaryScreen();
     emit screen->availableGeometryChanged(screen->availableGeometry());
 }
 
-void RandomUser::fillClipboard() {
+void fillClipboard(RandomUser& user) {
     QClipboard& clipboard = *QGuiApplication::clipboard();
-    if (oneIn(8)) {
+    if (user.oneIn(8)) {
         auto* const data = new QMimeData;
-        data->setData(oneIn(2) ? "text/html" : "image/png", anyText().toUtf8());
+        data->setData(user.oneIn(2) ? "text/html" : "image/png", user.anyText().toUtf8());
         clipboard.setMimeData(data);
     } else {
-        clipboard.setText(anyText());
+        clipboard.setText(user.anyText());
     }
-    if (oneIn(2)) {
-        session_->controller.clipboard().paste();
-    }
-}
-
-void RandomUser::pasteAndCopy() {
-    QTest::keyClick(session_->window.windowHandle(), Qt::Key_Insert,
-                    oneIn(2) ? Qt::ShiftModifier : Qt::ControlModifier);
-}
-
-void RandomUser::toggleDrawer() {
-    const auto names = kDrawerNames;
-    const DrawerName name = anyOf(names);
-    for (int count = 1 + below(3); count > 0; --count) {
-        session_->controller.drawers().toggleDrawer(name);
+    if (user.oneIn(2)) {
+        user.session->controller.clipboard().paste();
     }
 }
 
-void RandomUser::changeLayout() {
+void pasteAndCopy(RandomUser& user) {
+    QTest::keyClick(user.session->window.windowHandle(), Qt::Key_Insert,
+                    user.oneIn(2) ? Qt::ShiftModifier : Qt::ControlModifier);
+}
+
+void toggleDrawer(RandomUser& user) {
+    const DrawerName name = user.anyOf(kDrawerNames);
+    for (int count = 1 + user.below(3); count > 0; --count) {
+        user.session->controller.drawers().toggleDrawer(name);
+    }
+}
+
+void changeLayout(RandomUser& user) {
     constexpr std::array kSwitches{&WindowGeometry::takeShowYZTRegistersFrom,
                                    &WindowGeometry::takeShowStatusLineFrom,
                                    &WindowGeometry::takeShowKeyPadFrom};
-    for (int count = 1 + below(2); count > 0; --count) {
-        (session_->controller.geometry().*anyOf(kSwitches))();
+    for (int count = 1 + user.below(2); count > 0; --count) {
+        (user.session->controller.geometry().*user.anyOf(kSwitches))();
     }
 }
 
-void RandomUser::useHelp() {
-    DYXWindowController& controller = session_->controller;
-    if (session_->help.widget() == nullptr || oneIn(4)) {
-        controller.help().takeToggleHelpWindowFrom();
-        return;
-    }
+void useHelp(RandomUser& user) {
+    HelpController& help = user.session->controller.help();
+    const WindowViews& views = user.session->controller.views();
     static const std::array<QUrl, 7> kLinks{
         QUrl("HelpStart.html"),  QUrl("HelpStack.html#stacROLD"), QUrl("HelpNowhere.html"),
         QUrl("#nowhere"),        QUrl("https://example.org/"),    QUrl("mailto:talvex@example.org"),
         QUrl("file:///dev/null")};
-    const std::vector<Key> keys = controller.views().allKeys();
-    switch (below(4)) {
-        case 0:
-            controller.help().showHelpFor(anyOf(keys).button->command());
-            break;
-        case 1:
-            controller.views().help.matrix->performClickAt(
-                below(controller.views().help.matrix->numberOfRows()), 0);
-            break;
-        case 2:
-            oneIn(2) ? controller.help().takeMakeHelpTextLargerFrom()
-                     : controller.help().takeMakeHelpTextSmallerFrom();
-            break;
-        default:
-            emit session_->help.widget()->browser().anchorClicked(anyOf(kLinks));
+    if (user.session->help.widget() == nullptr || user.oneIn(4)) {
+        help.takeToggleHelpWindowFrom();
+    } else if (user.oneIn(4)) {
+        const std::vector<Key> keys = views.allKeys();
+        help.showHelpFor(user.anyOf(keys).button->command());
+    } else if (user.oneIn(3)) {
+        views.help.matrix->performClickAt(user.below(views.help.matrix->numberOfRows()), 0);
+    } else if (user.oneIn(2)) {
+        user.oneIn(2) ? help.takeMakeHelpTextLargerFrom() : help.takeMakeHelpTextSmallerFrom();
+    } else {
+        emit user.session->help.widget()->browser().anchorClicked(user.anyOf(kLinks));
     }
 }
 
-void RandomUser::saveOrRevert() {
-    oneIn(2) ? session_->controller.saveDocument() : session_->controller.revertDocumentToSaved();
+void saveOrRevert(RandomUser& user) {
+    DYXWindowController& controller = user.session->controller;
+    user.oneIn(2) ? controller.saveDocument() : controller.revertDocumentToSaved();
 }
 
-void RandomUser::minimise() {
-    session_->window.showMinimized();
-    if (oneIn(2)) {
+void minimise(RandomUser& user) {
+    user.session->window.showMinimized();
+    if (user.oneIn(2)) {
         QApplication::processEvents();
     }
-    session_->window.showNormal();
+    user.session->window.showNormal();
 }
 
 // Whatever else can be done to a calculator; the desktop in memory is there for the asking only.
-void RandomUser::calculate() {
+void calculate(RandomUser& user) {
     std::array<std::uint8_t, 40> bytes{};
     for (std::uint8_t& byte : bytes) {
-        byte = static_cast<std::uint8_t>(random_());
+        byte = static_cast<std::uint8_t>(user.below(256));
     }
     FuzzInput input(bytes);
     HeadlessPlatform nobody;
     while (!input.isAtEnd()) {
-        talvex::act(session_->controller, nobody, input);
+        talvex::act(user.session->controller, nobody, input);
     }
 }
+
+constexpr Action kActions[]{{"focus", 4, moveFocus},
+                            {"activation", 4, changeActivation},
+                            {"palette", 1, changePalette},
+                            {"place by the desktop", 3, placeByDesktop},
+                            {"screen", 1, changeScreen},
+                            {"clipboard", 4, fillClipboard},
+                            {"paste and copy", 4, pasteAndCopy},
+                            {"drawer", 12, toggleDrawer},
+                            {"layout", 8, changeLayout},
+                            {"help", 5, useHelp},
+                            {"save or revert", 2, saveOrRevert},
+                            {"minimise", 1, minimise},
+                            {"calculate", 3, calculate}};
+
+}  // namespace
+
+std::span<const Action> desktopActions() { return kActions; }
 
 }  // namespace talvex

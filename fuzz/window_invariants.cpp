@@ -11,43 +11,34 @@
 namespace talvex {
 namespace {
 
-bool isTrueOfDrawers(const WindowSession& session,
-                     bool (*holds)(const DrawerWidget&, const NSDrawer&)) {
+// Open to its full depth and as long as its content, or closed and out of sight.
+bool isAtRest(const DrawerWidget& drawer) {
+    const NSDrawer& record = drawer.record();
+    const QSize shown = drawer.visibleRect().size();
+    if (record.state() != NSDrawerOpenState) {
+        return record.state() == NSDrawerClosedState && shown.isEmpty() && drawer.isHidden();
+    }
+    const NSSize& most = record.maxContentSize();
+    const NSSize& content = record.contentSize();
+    return record.isLevel()
+               ? shown.height() == std::lround(NSDrawer::kOuterBorder + content.height) &&
+                     drawer.width() == std::lround(NSDrawer::kEnds + most.width)
+               : shown.width() == std::lround(NSDrawer::kOuterBorder + content.width) &&
+                     drawer.height() == std::lround(NSDrawer::kEnds + most.height);
+}
+
+bool areDrawersAtRest(WindowSession& session) {
     const auto drawers = drawersOf(session.window);
     return drawers.size() == kDrawerNames.size() &&
-           std::all_of(drawers.begin(), drawers.end(), [holds](const DrawerWidget* drawer) {
-               return holds(*drawer, drawer->record());
-           });
+           std::all_of(drawers.begin(), drawers.end(),
+                       [](const DrawerWidget* drawer) { return isAtRest(*drawer); });
 }
 
-bool standsStill(const DrawerWidget& /*drawer*/, const NSDrawer& record) {
-    return record.state() == NSDrawerOpenState || record.state() == NSDrawerClosedState;
-}
-
-bool isShutIfClosed(const DrawerWidget& drawer, const NSDrawer& record) {
-    return record.state() != NSDrawerClosedState ||
-           (drawer.visibleRect().isEmpty() && drawer.isHidden());
-}
-
-bool isWholeIfOpen(const DrawerWidget& drawer, const NSDrawer& record) {
-    const NSSize& content = record.contentSize();
-    const QSize shown = drawer.visibleRect().size();
-    return record.state() != NSDrawerOpenState ||
-           (record.isLevel() ? shown.height() : shown.width()) ==
-               std::lround(NSDrawer::kOuterBorder +
-                           (record.isLevel() ? content.height : content.width));
-}
-
-// At a side it is as high as its content, above and below as wide.
-bool fitsItsContent(const DrawerWidget& drawer, const NSDrawer& record) {
-    const NSSize& most = record.maxContentSize();
-    return record.state() != NSDrawerOpenState ||
-           std::lround(NSDrawer::kEnds + (record.isLevel() ? most.width : most.height)) ==
-               (record.isLevel() ? drawer.width() : drawer.height());
-}
-
-bool isShut(const DrawerWidget& drawer, const NSDrawer& record) {
-    return record.state() == NSDrawerClosedState && isShutIfClosed(drawer, record);
+bool isNoDrawerOutWithoutKeyPad(WindowSession& session) {
+    const auto drawers = drawersOf(session.window);
+    return !session.controller.layout().keyPadHidden ||
+           std::all_of(drawers.begin(), drawers.end(),
+                       [](const DrawerWidget* drawer) { return drawer->isHidden(); });
 }
 
 QSize sizeOf(const NSRect& frame) {
@@ -91,19 +82,9 @@ struct Invariant {
     bool (*holds)(WindowSession&);
 };
 
-constexpr std::array<Invariant, 12> kInvariants{{
-    {"every drawer is open or closed",
-     [](WindowSession& session) { return isTrueOfDrawers(session, standsStill); }},
-    {"nothing shows of a closed drawer",
-     [](WindowSession& session) { return isTrueOfDrawers(session, isShutIfClosed); }},
-    {"an open drawer shows to its full depth",
-     [](WindowSession& session) { return isTrueOfDrawers(session, isWholeIfOpen); }},
-    {"an open drawer fits its content along the body",
-     [](WindowSession& session) { return isTrueOfDrawers(session, fitsItsContent); }},
-    {"no drawer is out while the key pad is hidden",
-     [](WindowSession& session) {
-         return !session.controller.layout().keyPadHidden || isTrueOfDrawers(session, isShut);
-     }},
+constexpr std::array kInvariants = std::to_array<Invariant>({
+    {"every drawer is open and whole, or closed and gone", areDrawersAtRest},
+    {"no drawer is out while the key pad is hidden", isNoDrawerOutWithoutKeyPad},
     {"no drawer is waited for",
      [](WindowSession& session) { return !session.controller.drawers().keyPadWaits(); }},
     {"body and record have the size of the layout", hasSizeOfLayout},
@@ -115,7 +96,7 @@ constexpr std::array<Invariant, 12> kInvariants{{
     {"keys show and hide as their records do", doKeysStandAsRecorded},
     {"the status field shows with its strip", isStatusFieldShownWithItsStrip},
     {"the help is on the screen as its record says", isHelpShownAsRecorded},
-}};
+});
 
 }  // namespace
 

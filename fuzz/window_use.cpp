@@ -11,7 +11,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <map>
 
 #include "PrivateHome.h"
 #include "RandomUser.h"
@@ -27,51 +26,21 @@ double processorMilliseconds() {
     return 1e3 * static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_nsec);
 }
 
-// How long the window is deaf: the processor's time for an action, and for a turn of the event
-// loop after it.
-class Stalls {
-  public:
-    template <class Work>
-    void measure(long number, std::string_view action, Work work) {
-        const double start = processorMilliseconds();
-        work();
-        const double time = processorMilliseconds() - start;
-        double& worst = worst_[action];
-        worst = std::max(worst, time);
-        constexpr double kStall = 100.0;
-        if (time > kStall) {
-            ++count_;
-            std::printf("\naction %ld, %s: %.0f ms\n", number, action.data(), time);
-        }
-    }
-
-    void print() const {
-        for (const auto& [action, time] : worst_) {
-            std::printf("%8.1f ms at worst: %s\n", time, action.data());
-        }
-        std::printf("%d stalls\n", count_);
-    }
-
-  private:
-    std::map<std::string_view, double> worst_;
-    int count_ = 0;
-};
-
 class Run {
   public:
     explicit Run(std::uint64_t seed) : user_(seed) {}
 
     void act() {
         ++number_;
-        action_ = user_.decide();
-        std::printf("%s; ", action_.data());
-        stalls_.measure(number_, action_, [this] { user_.act(); });
-        checkInvariants(user_.session().controller);
-        lookOn(user_.pause());
+        const Action& action = user_.decide();
+        std::printf("%s; ", action.name);
+        work(action.name, [&] { action.run(user_); });
+        checkInvariants(user_.session->controller);
+        lookOn(action.name, user_.pause());
     }
 
-    // Answers whether everything comes to rest as it should; a window that doesn't is left behind.
-    bool comesToRest() {
+    // Waits for everything to come to rest as it should; a window that doesn't is left behind.
+    void rest(const PrivateHome& home) {
         std::printf("%ld\n", number_);
         user_.letGo();
         constexpr int kLongest = 2000;
@@ -79,47 +48,58 @@ class Run {
         timer.start();
         std::vector<const char*> broken;
         do {
-            lookOn(1);
-            broken = brokenInvariants(user_.session());
+            lookOn("rest", 1);
+            broken = brokenInvariants(*user_.session);
         } while (!broken.empty() && timer.elapsed() < kLongest);
         for (const char* const text : broken) {
-            ++broken_[text];
             std::printf("after action %ld it isn't true that %s\n", number_, text);
         }
-        return broken.empty();
+        if (!broken.empty()) {
+            ++faults_;
+            std::filesystem::remove(home.file());
+            user_.restart();
+        }
     }
-
-    void restart() { user_.restart(); }
 
     // Whether all held.
     [[nodiscard]] bool report() const {
-        stalls_.print();
-        for (const auto& [text, count] : broken_) {
-            std::printf("%8d times untrue: %s\n", count, text.data());
-        }
-        std::printf("%ld actions\n", number_);
-        return broken_.empty();
+        std::printf("%ld actions, %d stalls, %d faults\n", number_, stalls_, faults_);
+        return faults_ == 0;
     }
 
   private:
-    void lookOn(int milliseconds) {
+    // Says when the window is deaf for long: for the processor's time of an action, or of a turn of
+    // the event loop after it.
+    template <class Work>
+    void work(const char* action, Work work) {
+        const double start = processorMilliseconds();
+        work();
+        const double time = processorMilliseconds() - start;
+        constexpr double kStall = 100.0;
+        if (time > kStall) {
+            ++stalls_;
+            std::printf("\naction %ld, %s: %.0f ms\n", number_, action, time);
+        }
+    }
+
+    void lookOn(const char* action, int milliseconds) {
         QElapsedTimer timer;
         timer.start();
         while (timer.elapsed() < milliseconds) {
-            stalls_.measure(number_, action_, [] { QApplication::processEvents(); });
+            work(action, [] { QApplication::processEvents(); });
             QThread::msleep(1);
         }
     }
 
     RandomUser user_;
-    Stalls stalls_;
-    std::string_view action_ = "start";
     long number_ = 0;
-    std::map<std::string_view, int> broken_;
+    int stalls_ = 0;
+    int faults_ = 0;
 };
 
-// What the user does on purpose is nothing to be told of.
-void tell(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& message) {
+// What the user does on purpose is nothing to speak of.
+void printMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/,
+                  const QString& message) {
     constexpr std::array<const char*, 4> kKnown{"This plugin does not support",
                                                 "occurs outside target window", "openUrl()",
                                                 "No document for"};
@@ -153,7 +133,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
-    qInstallMessageHandler(tell);
+    qInstallMessageHandler(printMessage);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     std::setlocale(LC_NUMERIC, "C");
@@ -165,10 +145,7 @@ int main(int argc, char** argv) {
         for (int count = 0; count < kBetweenChecks; ++count) {
             run.act();
         }
-        if (!run.comesToRest()) {
-            std::filesystem::remove(home.file());
-            run.restart();
-        }
+        run.rest(home);
     }
     return run.report() ? 0 : 1;
 }
