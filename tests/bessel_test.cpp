@@ -7,43 +7,49 @@
 
 #include "numeric/DYXnan.h"
 #include "oracle/hard_numbers.h"
-#include "oracle/naive_functions.h"
 #include "same_bits.h"
 
 namespace talvex {
 namespace {
 
-void expectNaive(double x, double nu) {
-    SCOPED_TRACE(testing::Message() << x << " of order " << nu);
-    // Whatever stands in a field that wasn't written stays there.
-    BesselValues values{.J = 1.5, .Y = 2.5, .Jderivative = 3.5, .Yderivative = 4.5};
-    BesselValues expected = values;
-    EXPECT_EQ(bessjy(x, nu, values), naiveBessjy(x, nu, expected));
-    EXPECT_TRUE(isSame(values.J, expected.J));
-    EXPECT_TRUE(isSame(values.Y, expected.Y));
-    EXPECT_TRUE(isSame(values.Jderivative, expected.Jderivative));
-    EXPECT_TRUE(isSame(values.Yderivative, expected.Yderivative));
+// Nine digits, but near a zero, where they are those of the oscillation; or no number, where the
+// recurrence overflows.
+void expectNear(double result, double wanted, double oscillation) {
+    if (std::isnan(result)) {
+        EXPECT_FALSE(std::fabs(wanted) > 1e-200 && std::fabs(wanted) < 1e200) << wanted;
+    } else if (std::isfinite(wanted)) {
+        EXPECT_NEAR(result, wanted, 2e-8 * (std::fabs(wanted) + oscillation));
+    }
 }
 
-TEST(Bessel, HasTheBitsOfTheLoopsRunToTheirEnd) {
+TEST(Bessel, AgreesWithTheStandardLibrary) {
     HardNumbers numbers(3);
-    for (int round = 0; round < 3'000; ++round) {
-        const double x = std::exp(numbers.between(-20.0, 9.3));
-        expectNaive(x, std::exp(numbers.between(-10.0, 8.0)));
-        expectNaive(x, std::floor(numbers.between(0.0, 200.0)) / 2.0);
-        expectNaive(x, x * (1.0 + std::exp(numbers.between(-12.0, 2.0))));
-    }
-    // Orders whose recurrences overflow at the first steps, in between, at the last step, never.
-    for (int nu = 100; nu < 200; ++nu) {
-        expectNaive(1.0, nu);
-        expectNaive(2.0, nu + 0.25);
-    }
-    for (int round = 0; round < 1'500; ++round) {
-        const double x = numbers.next();
-        const double nu = numbers.next();
-        if (!(nu - x > 1e6 && nu < 2147483648.0 + x)) {  // the naive recurrence takes too long
-            expectNaive(x, nu);
+    for (int round = 0; round < 2'000; ++round) {
+        const double x = std::exp(numbers.between(-20.0, 6.5));
+        for (const double order :
+             {std::exp(numbers.between(-10.0, 6.0)), std::floor(numbers.between(0.0, 200.0)) / 2.0,
+              x * (1.0 + std::exp(numbers.between(-12.0, 1.0)))}) {
+            SCOPED_TRACE(testing::Message() << x << " of order " << order);
+            const double j = std::cyl_bessel_j(order, x);
+            const double y = std::cyl_neumann(order, x);
+            const double oscillation = x > order ? std::hypot(j, y) : 0.0;
+            expectNear(besselJv(order, x), j, oscillation);
+            expectNear(besselYv(order, x), y, oscillation);
         }
+    }
+}
+
+// From 2 on no function of the C library but the root has a part in it.
+TEST(Bessel, HasTheBitsOfItsFormula) {
+    const struct {
+        double order, x, j, y;
+    } rows[]{{0, 10, -0x1.f7ad2b89e1e55p-3, 0x1.c80ee65a05c4bp-5},
+             {2.5, 3, 0x1.a69d756c498fbp-2, -0x1.79e5d02a3c56cp-2},
+             {40.25, 7.5, 0x1.b28dc3918a974p-85, -0x1.36c52ce043007p+77},
+             {0.3, 2, 0x1.b3e924e93f0bap-2, 0x1.7434d65115d63p-2}};
+    for (const auto& row : rows) {
+        EXPECT_TRUE(isSame(besselJv(row.order, row.x), row.j)) << row.order;
+        EXPECT_TRUE(isSame(besselYv(row.order, row.x), row.y)) << row.order;
     }
 }
 
