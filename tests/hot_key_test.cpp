@@ -44,6 +44,25 @@ TEST(HotKeys, LeadFromCharacterAndStateToACommand) {
     }
 }
 
+// What a key does by itself, and with recall armed.
+TEST(HotKeys, HaveTheLettersAndSignsOfTheManual) {
+    const std::pair<std::u16string_view, Text> rows[]{
+        {u"aceFhilnoqrst+-*/^~",
+         u"unitABS unitGCOSunitEXP unitFACTunitGCOTunitINV unitLG10unitNLOGunit10^XunitSQR unitROOT"
+         u"unitGSINunitGTANbina+   bina-   bina*   bina/   bina^   bina~   "},
+        {u"cehkmpqr)!@#$%^&*(",
+         u"consc   conse   consh   consKb  consmub consPI  conse-  consSQT2memoM010memoM011memoM012"
+         u"memoM013memoM014memoM015memoM016memoM017memoM018memoM019"}};
+    for (const auto& [keys, commands] : rows) {
+        Text found;
+        for (const char16_t key : keys) {
+            found += stringFromCommand(
+                commandOf(HotKeys(), key, {.isRecallArmed = &keys == &rows[1].first}));
+        }
+        EXPECT_EQ(found, commands);
+    }
+}
+
 TEST(HotKeys, StandInTheMarkUpOfStatusTexts) {
     const std::pair<Text, Text> rows[]{{u"dataENT ", u"[\u23CE|\u2324]"},
                                        {u"unitGSIN", u"[s]"},
