@@ -23,7 +23,16 @@ BUTTON_ROLES = ("push button", "check box", "toggle button")
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 MANUAL = (ROOT / "packaging/talvex.1.in").read_text().replace("\\", "")
 THIN = "\u2009"
+INVERSE = "inverse of the next function"
 CARET_ON_A_GERMAN_KEYBOARD = 49  # a dead key
+
+
+def focus(*window):
+    xdotool("search", *window, "windowfocus")
+
+
+def children(node):
+    return filter(None, map(node.get_child_at_index, range(node.get_child_count())))
 
 
 class Calculator:
@@ -34,26 +43,17 @@ class Calculator:
 
     @staticmethod
     def application_on_the_bus():
-        root = Atspi.get_desktop(0)
-        for index in range(root.get_child_count()):
-            child = root.get_child_at_index(index)
-            if child and child.get_name() == "talvex":
-                return child
-        return None
+        named = (child for child in children(Atspi.get_desktop(0)) if child.get_name() == "talvex")
+        return next(named, None)
 
     def _walk(self, node):
         yield node
-        for index in range(node.get_child_count()):
-            child = node.get_child_at_index(index)
-            if child:
-                yield from self._walk(child)
+        for child in children(node):
+            yield from self._walk(child)
 
-    def find(self, start, role=None):
-        for node in self._walk(self.application):
-            is_named = node.get_name().startswith(start)
-            if is_named and (role is None or node.get_role_name() == role):
-                return node
-        return None
+    def find(self, start):
+        return next((node for node in self._walk(self.application)
+                     if node.get_name().startswith(start)), None)
 
     def key(self, name):
         for node in self._walk(self.application):
@@ -61,46 +61,54 @@ class Calculator:
                 return node
         raise AssertionError(f"no key {name}")
 
+    def place(self, name):
+        """The middle of a key on the screen."""
+        box = self.key(name).get_extents(Atspi.CoordType.SCREEN)
+        return box.x + box.width // 2, box.y + box.height // 2
+
     def line(self, label):
         return self.find(label + ": ").get_name()
 
     def is_lit(self, name):
-        key = self.key(name)
-        return key.get_state_set().contains(Atspi.StateType.CHECKED)
+        return self.key(name).get_state_set().contains(Atspi.StateType.CHECKED)
 
     def click(self, *names):
         for name in names:
-            box = self.key(name).get_extents(Atspi.CoordType.SCREEN)
-            xdotool("mousemove", box.x + box.width // 2, box.y + box.height // 2, "click", 1)
-
-
-class Process:
-    """The program, which can be ended and started again."""
-
-    def __init__(self):
-        self.process = subprocess.Popen([PROGRAM])
-
-    def end(self):
-        self.process.terminate()
-        self.process.wait()
-
-    def restart(self):
-        self.end()
-        wait_until(lambda: Calculator.application_on_the_bus() is None, "the program to go")
-        self.process = subprocess.Popen([PROGRAM])
+            xdotool("mousemove", *self.place(name), "click", 1)
 
 
 class EndToEnd(unittest.TestCase):
+    @classmethod
+    def start(cls):
+        cls.process = subprocess.Popen([PROGRAM])
+        cls.calculator = Calculator()
+
+    @classmethod
+    def end(cls):
+        cls.process.terminate()
+        cls.process.wait()
+        wait_until(lambda: Calculator.application_on_the_bus() is None, "the program to go")
+
+    setUpClass, tearDownClass = start, end
+
+    def restart(self):
+        self.end()
+        self.start()
+
     def setUp(self):
-        self.calculator = Calculator()
-        xdotool("search", "--sync", "--onlyvisible", "--class", "talvex", "windowfocus")
+        focus("--sync", "--onlyvisible", "--class", "talvex")
         xdotool("key", "Delete")
-        self.expect_x("0.000" + THIN + "0")
+        self.expect_x("0.0000")
         SCREEN.bells()
 
     def expect_x(self, text):
-        wait_until(lambda: self.calculator.line("X") == "X: " + text,
-                   f"X to be {text!r}, it is {self.calculator.line('X')!r}")
+        def shown():
+            return self.calculator.line("X").replace(THIN, "")
+
+        wait_until(lambda: shown() == "X: " + text, f"X to be {text!r}, it is {shown()!r}")
+
+    def expect_inverse(self, is_lit):
+        wait_until(lambda: self.calculator.is_lit(INVERSE) == is_lit, f"INV to be lit: {is_lit}")
 
     @staticmethod
     def windows():
@@ -115,27 +123,18 @@ class EndToEnd(unittest.TestCase):
         self.wait_for_windows(2)
         xdotool("key", *["Down"] * (number + 1), "Return")
 
-    def test_typed_keys_add(self):
-        xdotool("key", "1", "2", "Return", "3", "plus")
-        self.expect_x("15.000" + THIN + "0")
-
-    def test_clicked_keys_add(self):
-        self.calculator.click("1", "2", "enter", "3", "add X to Y")
-        self.expect_x("15.000" + THIN + "0")
-
     def test_a_clicked_shift_key_reaches_a_typed_function(self):
         xdotool("key", "1")
-        self.calculator.click("inverse of the next function")
-        wait_until(lambda: self.calculator.is_lit("inverse of the next function"), "INV to light")
+        self.calculator.click(INVERSE)
+        self.expect_inverse(True)
         xdotool("key", "s")
-        self.expect_x("1.570" + THIN + "8")
+        self.expect_x("1.5708")
         self.calculator.click("clear X")
-        wait_until(lambda: not self.calculator.is_lit("inverse of the next function"),
-                   "INV to go out")
+        self.expect_inverse(False)
 
     def test_control_makes_functions_hyperbolic_while_it_is_held(self):
         xdotool("key", "1", "ctrl+s")
-        self.expect_x("1.175" + THIN + "2")
+        self.expect_x("1.1752")
         self.assertFalse(self.calculator.is_lit("hyperbolic form of the next function"))
 
     def test_a_refused_key_sounds_and_changes_nothing(self):
@@ -153,25 +152,23 @@ class EndToEnd(unittest.TestCase):
     def test_a_modifier_key_held_while_the_focus_goes_leaves_nothing_lit(self):
         with running(["xev"], stdout=subprocess.DEVNULL):
             xdotool("search", "--sync", "--name", "Event Tester")
-            xdotool("search", "--sync", "--onlyvisible", "--class", "talvex", "windowfocus")
+            focus("--sync", "--onlyvisible", "--class", "talvex")
             xdotool("keydown", "shift")
-            wait_until(lambda: self.calculator.is_lit("inverse of the next function"),
-                       "INV to light")
-            xdotool("search", "--name", "Event Tester", "windowfocus")
-            wait_until(lambda: not self.calculator.is_lit("inverse of the next function"),
-                       "INV to go out")
+            self.expect_inverse(True)
+            focus("--name", "Event Tester")
+            self.expect_inverse(False)
             xdotool("keyup", "shift")
-            xdotool("search", "--onlyvisible", "--class", "talvex", "windowfocus")
+            focus("--onlyvisible", "--class", "talvex")
         xdotool("key", "2")
         self.expect_x("2")
-        self.assertFalse(self.calculator.is_lit("inverse of the next function"))
+        self.expect_inverse(False)
 
     def test_a_dead_key_of_another_layout_is_a_key(self):
         subprocess.run(["setxkbmap", "de"], check=True)
         try:
             xdotool("key", "2", "Return", "1", "0")
             xdotool("key", CARET_ON_A_GERMAN_KEYBOARD)
-            self.expect_x("1,024.000" + THIN + "0")
+            self.expect_x("1,024.0000")
         finally:
             subprocess.run(["setxkbmap", "us"], check=True)
 
@@ -183,7 +180,7 @@ class EndToEnd(unittest.TestCase):
         text = b"-7,25" + b" and so on" * 1000000
         subprocess.run(clipboard, input=text, check=True)
         xdotool("key", "shift+Insert")
-        self.expect_x("-7.250" + THIN + "0")
+        self.expect_x("-7.2500")
         again = subprocess.run([*clipboard, "-o"], capture_output=True, timeout=10).stdout
         self.assertEqual(again, text)
 
@@ -194,22 +191,20 @@ class EndToEnd(unittest.TestCase):
             wait_until(lambda: self.calculator.find("paste: no answer"), "the word", seconds=2)
             wait_until(SCREEN.bells, "the bell")
             xdotool("key", "shift+Insert", "7")
-            wait_until(lambda: self.calculator.line("X") == "X: 7", "a key", seconds=2)
+            self.expect_x("7")
             wait_until(SCREEN.bells, "the bell")
             self.expect_x("7")
 
     def test_a_restart_brings_the_entry_back(self):
         xdotool("key", "4", "2")
         self.expect_x("42")
-        PROCESS.restart()
-        self.calculator = Calculator()
-        self.expect_x("42.000" + THIN + "0")
+        self.restart()
+        self.expect_x("42.0000")
 
     def test_the_first_start_shows_the_help_and_leaves_the_keys_with_the_calculator(self):
-        PROCESS.end()
+        self.end()
         shutil.rmtree(pathlib.Path(os.environ["HOME"], "Library"))
-        PROCESS.restart()
-        self.calculator = Calculator()
+        self.start()
         self.wait_for_windows(2)
         time.sleep(0.5)  # for the window manager to settle whose the keyboard is
         for window in self.windows():
@@ -221,60 +216,45 @@ class EndToEnd(unittest.TestCase):
         self.wait_for_windows(1)
 
     def test_a_smaller_screen_brings_the_window_back_into_sight(self):
-        def place():
-            box = self.calculator.key("enter").get_extents(Atspi.CoordType.SCREEN)
-            return box.x, box.y
-
         def xrandr(*arguments):
             subprocess.run(["xrandr", *arguments], check=True)
 
         xdotool("windowmove", int(self.windows()[0]), 600, 500)
-        wait_until(lambda: place() > (800, 600), "the window to move away")
+        wait_until(lambda: self.calculator.place("enter") > (800, 600), "the window to move away")
         xrandr("--newmode", "small", *"38.25 800 832 912 1024 600 603 607 624".split())
         xrandr("--addmode", "screen", "small")
         try:
             xrandr("--output", "screen", "--mode", "small")
-            wait_until(lambda: place() < (800, 600) and place()[1] < 600, "the window to be back")
+            wait_until(lambda: self.calculator.place("enter") < (800, 600), "the window to be back")
+            self.assertLess(self.calculator.place("enter")[1], 600)
         finally:
             xrandr("--output", "screen", "--mode", "1280x1024")
 
     def open_drawer(self, name, key):
-        """Opens it, and waits until the key in it has come to rest."""
         self.calculator.click(f"open or close the drawer of {name}")
-        place = None
-
-        def rests():
-            nonlocal place
-            if self.calculator.find(key) is None:
-                return False
-            box = self.calculator.key(key).get_extents(Atspi.CoordType.SCREEN)
-            last, place = place, (box.x, box.y)
-            return place == last
-
-        wait_until(rests, f"{key} to come to rest", pause=0.1)
+        wait_until(lambda: self.calculator.find(key), key)
+        time.sleep(0.5)  # for the drawer to come to rest
 
     def test_drawers_hold_constants_and_units_and_come_back(self):
         self.open_drawer("constants", "speed of light in vacuum")
         self.open_drawer("unit conversions", "Length")
         self.calculator.click("speed of light in vacuum")
-        self.expect_x("299,792,458.000" + THIN + "0")
+        self.expect_x("299,792,458.0000")
         self.calculator.click("Length", "5", "foot", "metre")
-        self.expect_x("1.524" + THIN + "0")
+        self.expect_x("1.5240")
         self.calculator.click("inch")
-        self.expect_x("60.000" + THIN + "0")
+        self.expect_x("60.0000")
         self.calculator.click("Temperature", "clear X", "degree Celsius", "degree Fahrenheit")
-        self.expect_x("32.000" + THIN + "0")
+        self.expect_x("32.0000")
 
         def places():
-            return [(box.x, box.y) for box in
-                    (self.calculator.key(name).get_extents(Atspi.CoordType.SCREEN)
-                     for name in ("speed of light in vacuum", "degree Celsius", "enter"))]
+            return [self.calculator.place(name)
+                    for name in ("speed of light in vacuum", "degree Celsius", "enter")]
 
         before = places()
-        PROCESS.restart()
-        self.calculator = Calculator()
+        self.restart()
         wait_until(lambda: places() == before, "everything where it was")
-        self.expect_x("32.000" + THIN + "0")
+        self.expect_x("32.0000")
         self.calculator.click("open or close the drawer of constants",
                               "open or close the drawer of unit conversions")
 
@@ -309,8 +289,4 @@ if __name__ == "__main__":
     os.environ.pop("QT_QPA_PLATFORM", None)
     with desktop() as SCREEN, \
             running(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"]):
-        PROCESS = Process()
-        try:
-            unittest.main()
-        finally:
-            PROCESS.end()
+        unittest.main()
