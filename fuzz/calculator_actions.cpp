@@ -50,13 +50,8 @@ void chooseFromMenu(DYXWindowController& calculator, FuzzInput& input) {
 }
 
 void setAnything(DYXWindowController& calculator, FuzzInput& input) {
-    static constexpr auto kAnyValue = std::to_array<const SettingRow*>(
-        {&settingRow<&Settings::outputDisplayMode>(), &settingRow<&Settings::inputDisplayMode>(),
-         &settingRow<&Settings::angleMode>(), &settingRow<&Settings::decimalMode>(),
-         &settingRow<&Settings::fontMode>(), &settingRow<&Settings::digitGroupingSeparatorMode>(),
-         &settingRow<&Settings::digitGroupingDigitsMode>(), &settingRow<&Settings::digits>()});
     const auto value = input.take<std::int32_t>();
-    calculator.choose(*kAnyValue.at(input.take<std::uint8_t>() % kAnyValue.size()), value);
+    calculator.choose(kSettings.at(input.take<std::uint8_t>() % kSettings.size()), value);
 }
 
 void putNumber(DYXCalculator& calculator, FuzzInput& input) {
@@ -68,24 +63,22 @@ void putNumber(DYXCalculator& calculator, FuzzInput& input) {
 
 void changeLocale(DYXWindowController& calculator, HeadlessPlatform& platform, FuzzInput& input) {
     const auto kind = input.take<std::uint8_t>();
-    platform.format.decimalSeparator = kind % 3 == 0   ? u"."
-                                       : kind % 3 == 1 ? u","
-                                                       : std::u16string(1, input.take<char16_t>());
+    const char16_t any = kind % 2 == 0 ? u',' : input.take<char16_t>();
+    platform.format.decimalSeparator.assign(1, kind % 3 == 0 ? u'.' : any);
     platform.format.groupingSize = kind % 7;
     calculator.applicationWillBecomeActive();
 }
 
 // Only the X line has all slots.
-void checkSlot(const TextSlot& slot, std::size_t longest) {
-    require(!slot || slot->stringValue().size() <= longest);
-}
-
 void checkLine(const DYXOutputDisplay& line) {
-    checkSlot(line.mantissaField(), kLongestText);
-    checkSlot(line.mantissaSignField(), 1);
-    checkSlot(line.exponentField(), 3);
-    checkSlot(line.exponentSignField(), 1);
-    checkSlot(line.statusField(), kLongestText);
+    const auto check = [](const TextSlot& slot, std::size_t longest) {
+        require(!slot || slot->stringValue().size() <= longest);
+    };
+    check(line.mantissaField(), kLongestText);
+    check(line.mantissaSignField(), 1);
+    check(line.exponentField(), 3);
+    check(line.exponentSignField(), 1);
+    check(line.statusField(), kLongestText);
 }
 
 }  // namespace
@@ -151,19 +144,15 @@ void checkInvariants(DYXWindowController& calculator) {
     require(state.modifiers.store >= Store::nothing && state.modifiers.store <= Store::divide);
     require(state.entry.text.size() <= 32);
     require(state.entry.hasFraction || state.entry.denominatorDigits == 0);
-    CalculatorState other = state;
-    other.stack.lastX = state.stack.lastX == 0.0 ? 1.0 : -state.stack.lastX;
-    require(state == calculator.calculator().state() && !(state == other));
+    require(state == calculator.calculator().state());
     for (const DYXOutputDisplay* line : calculator.lines()) {
         checkLine(*line);
         require(line == calculator.lines().front() ||
                 !line->mantissaField()->stringValue().empty());
     }
     for (const DrawerName name : kDrawerNames) {
-        const NSDrawer& drawer = calculator.drawers()[name].record;
-        const double size =
-            drawer.isLevel() ? drawer.contentSize().height : drawer.contentSize().width;
-        require(std::isfinite(size) && size >= 0.0);
+        const NSSize& size = calculator.drawers()[name].record.contentSize();
+        require(std::isfinite(size.width * size.height) && size.width >= 0 && size.height >= 0);
     }
 }
 

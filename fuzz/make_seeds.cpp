@@ -1,5 +1,5 @@
 // Writes inputs for the fuzz targets to begin with: the worked examples of the modes and of the
-// help, and whole saved states. Usage: make_seeds FOLDER TEMPLATES, with the templates of the help.
+// help. Usage: make_seeds FOLDER TEMPLATES, with the templates of the help.
 
 #include <array>
 #include <bit>
@@ -18,7 +18,6 @@
 #include "display_format_tables.h"
 #include "help/KeyCaps.h"
 #include "numeric/decimal_text.h"
-#include "state/SavedState.h"
 
 namespace talvex {
 namespace {
@@ -100,26 +99,6 @@ void addExamples(Corpora& corpora, const fs::path& templates) {
     }
 }
 
-void addStates(Corpora& corpora) {
-    for (const auto flavour : {PropertyListFlavour::xml, PropertyListFlavour::binary}) {
-        corpora.add("state_fuzz", writePropertyList(propertiesOf({}), flavour));
-    }
-}
-
-// Each function and unit once, with small numbers.
-void addFunctions(Corpora& corpora) {
-    constexpr std::uint16_t kChoices = 512;
-    for (std::uint16_t choice = 0; choice < kChoices; ++choice) {
-        std::string bytes(5, '\0');
-        for (const std::int64_t operand : {3, 2}) {
-            append(bytes, std::uint8_t{4});
-            append(bytes, operand << 30U);
-        }
-        append(bytes, choice);
-        corpora.add("function_fuzz", bytes);
-    }
-}
-
 }  // namespace
 }  // namespace talvex
 
@@ -131,7 +110,5 @@ int main(int argc, char** argv) {
     Corpora corpora{argv[1]};
     addModes(corpora);
     addExamples(corpora, argv[2]);
-    addStates(corpora);
-    addFunctions(corpora);
     return 0;
 }

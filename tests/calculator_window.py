@@ -25,9 +25,9 @@ class Rect(NamedTuple):
         return Rect(self.x + x, self.y + y, self.width, self.height)
 
     def within(self, width, height):
-        x, y = max(self.x, 0), max(self.y, 0)
-        return Rect(x, y, max(0, min(self.x + self.width, width) - x),
-                    max(0, min(self.y + self.height, height) - y))
+        left, top = max(self.x, 0), max(self.y, 0)
+        return Rect(left, top, min(self.x + self.width, width) - left,
+                    min(self.y + self.height, height) - top)
 
     def __str__(self):
         return f"{self.width}x{self.height} at ({self.x}, {self.y})"
@@ -41,17 +41,16 @@ def around(rects):
 
 def rest_of(question, seconds=0.4):
     """The answer when it has not changed for a while."""
-    answer, since = question(), time.monotonic()
+    answers = [(question(), time.monotonic())]
 
     def rests():
-        nonlocal answer, since
-        last, answer = answer, question()
-        if answer != last:
-            since = time.monotonic()
-        return time.monotonic() - since > seconds
+        answer, now = question(), time.monotonic()
+        if answer != answers[-1][0]:
+            answers.append((answer, now))
+        return now - answers[-1][1] > seconds
 
     wait_until(rests, "the screen to come to rest")
-    return answer
+    return answers[-1][0]
 
 
 class Desk:
@@ -62,9 +61,6 @@ class Desk:
         self.switch = switch  # the key of the window manager that is held, and the one that chooses
         self.display = display.Display()
         self.root = self.display.screen().root
-
-    def close(self):
-        self.display.close()
 
     def _property(self, name):
         answer = self.root.get_full_property(self.display.intern_atom(name), X.AnyPropertyType)
@@ -88,8 +84,7 @@ class Desk:
         return None
 
     def has_keyboard(self, window):
-        focus = self.display.get_input_focus().focus
-        return getattr(focus, "id", None) == window.id
+        return getattr(self.display.get_input_focus().focus, "id", None) == window.id
 
     def pixels(self, points):
         return [self.root.get_image(x, y, 1, 1, X.ZPixmap, 0xFFFFFF).data for x, y in points]
@@ -105,9 +100,7 @@ class Calculator:
         return self
 
     def __exit__(self, *_):
-        self.process.kill()
-        self.process.wait()
-        wait_until(lambda: self.desk.window("Talvex") is None, "the window to go")
+        self.end()
 
     def start(self):
         self.process = subprocess.Popen([self.desk.program], stderr=subprocess.DEVNULL)
@@ -121,26 +114,22 @@ class Calculator:
         wait_until(lambda: self.desk.window("Talvex") is None, "the window to go")
         return plistlib.loads(state_file(os.environ["HOME"]).read_bytes())
 
-    def _on_screen(self, rects):
-        """What is left of parts of the window in all the frames around it."""
-        window = self.window
-        while window.id != self.desk.root.id:
-            place = window.get_geometry()
-            border = place.border_width
-            rects = [rect.within(place.width, place.height).moved(place.x + border, place.y + border)
-                     for rect in rects]
-            window = window.query_tree().parent
-        return [rect for rect in rects if rect.width > 0 and rect.height > 0]
-
     def size_of_window(self):
         place = self.window.get_geometry()
         return place.width, place.height
 
     def pieces(self):
+        """What is left of the parts of the window in all the frames around it."""
         try:
-            shown = self.window.shape_get_rectangles(SK.Bounding).rectangles
-            return self._on_screen([Rect(each.x, each.y, each.width, each.height)
-                                    for each in shown])
+            rects = [Rect(each.x, each.y, each.width, each.height) for each in
+                     self.window.shape_get_rectangles(SK.Bounding).rectangles]
+            window = self.window
+            while window.id != self.desk.root.id:
+                frame = window.get_geometry()
+                x, y = frame.x + frame.border_width, frame.y + frame.border_width
+                rects = [rect.within(frame.width, frame.height).moved(x, y) for rect in rects]
+                window = window.query_tree().parent
+            return [rect for rect in rects if rect.width > 0 and rect.height > 0]
         except error.XError:
             return []
 
@@ -177,15 +166,10 @@ class Calculator:
             asked = [asked[0] + x - place[0], asked[1] + y - place[1]]
             xdotool("windowmove", self.window.id, *asked)
             place = self.place()
-        self._drag(x - place[0], y - place[1])
-        return self.place()
-
-    def _drag(self, x, y):
-        left, top = self.place()
-        grip = (left + WHOLE_BODY[0] // 2, top + TITLE_BAR // 2)
+        grip = (place[0] + WHOLE_BODY[0] // 2, place[1] + TITLE_BAR // 2)
         xdotool("mousemove", *grip, "mousedown", 1)
-        for step in (1, 2, 3, 4):
-            time.sleep(0.05)  # as a hand does it, for the window manager to take hold
-            xdotool("mousemove", grip[0] + x * step // 4, grip[1] + y * step // 4)
-        time.sleep(0.05)
-        xdotool("mouseup", 1)
+        for step in (1, 2, 3, 4):  # as a hand does it, for the window manager to take hold
+            xdotool("sleep", 0.05, "mousemove", grip[0] + (x - place[0]) * step // 4,
+                    grip[1] + (y - place[1]) * step // 4)
+        xdotool("sleep", 0.05, "mouseup", 1)
+        return self.place()

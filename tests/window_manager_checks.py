@@ -19,14 +19,11 @@ def number(state, key):
     return struct.unpack(">d", state[key])[0]
 
 
-def middle(area):
-    return (area.x + (area.width - WHOLE_BODY[0]) // 2, area.y + (area.height - WHOLE_BODY[1]) // 2)
-
-
 def places(area):
     right, bottom = area.x + area.width - WHOLE_BODY[0], area.y + area.height - WHOLE_BODY[1]
-    return {"middle": middle(area), "top left": (area.x, area.y), "top right": (right, area.y),
-            "bottom left": (area.x, bottom), "bottom right": (right, bottom)}
+    return {"middle": ((area.x + right) // 2, (area.y + bottom) // 2), "top left": area[:2],
+            "top right": (right, area.y), "bottom left": (area.x, bottom),
+            "bottom right": (right, bottom)}
 
 
 def way(place, from_place):
@@ -51,7 +48,7 @@ def check_start(desk):
     frame = (saved[0], bottom_of_screen - saved[1] - WHOLE_BODY[1], *WHOLE_BODY)
     faults = []
     for name, place, state in (
-            ("middle", middle(area), {}),
+            ("middle", places(area)["middle"], {}),
             ("saved place", saved, {"calculatorFrame": struct.pack(">4f", *frame)})):
         points = [(place[0] - SHADE, place[1] + SHADE), (place[0] + SHADE, place[1] - SHADE)]
         before = rest_of(lambda: desk.pixels(points))
@@ -74,37 +71,36 @@ def check_keys(desk):
     return [] if shown == 15 else [f"X is {shown}"]
 
 
+# By the keys of the saved state.
+LAYOUT_BUTTONS = {"showStatusLine": lambda width: width - 37,
+                  "displayViewMode": lambda width: width - 18,
+                  "keyPadHidden": lambda width: 53}
+
+
 def size_of(layout):
-    rows = 60 if layout["four lines"] else 0
-    if layout["key pad"]:
+    rows = 60 * layout["displayViewMode"]
+    if layout["keyPadHidden"]:
         return 274, TITLE_BAR + 45 + rows
-    return WHOLE_BODY[0], WHOLE_BODY[1] + rows + (17 if layout["status line"] else 0)
-
-
-def layout_button(name, width):
-    return {"status line": (width - 37, 11), "four lines": (width - 18, 11), "key pad": (53, 11)}[name]
+    return WHOLE_BODY[0], WHOLE_BODY[1] + rows + 17 * layout["showStatusLine"]
 
 
 def check_layouts(desk):
-    layout = {"status line": False, "four lines": False, "key pad": False}  # "key pad": without it
+    layout = dict.fromkeys(LAYOUT_BUTTONS, False)
     with Calculator(desk) as calculator:
         corner, canvas = calculator.place(), calculator.size_of_window()
-        is_canvas = canvas != WHOLE_BODY
         for step in range(KEEPS_SIZE):
             name = list(layout)[step % 3]
-            calculator.click(*layout_button(name, size_of(layout)[0]))
+            calculator.click(LAYOUT_BUTTONS[name](size_of(layout)[0]), 11)
             layout[name] = not layout[name]
             wanted = Rect(*corner, *size_of(layout))
             happens(lambda: calculator.seen() == wanted, 1.5)
-            seen = rest_of(calculator.seen, 0.15)
-            window = calculator.size_of_window()
+            seen, window = rest_of(calculator.seen, 0.15), calculator.size_of_window()
             if seen != wanted:
                 return [f"change {step + 1}, {name}: {seen}, not {wanted}"]
-            if window != (canvas if is_canvas else wanted[2:]):
+            if window != (wanted[2:] if canvas == WHOLE_BODY else canvas):
                 return [f"change {step + 1}, {name}: the window is {window[0]}x{window[1]}"]
         state = calculator.end()
-    kept = {"status line": state["showStatusLine"], "four lines": state["displayViewMode"] == 1,
-            "key pad": state["keyPadHidden"]}
+    kept = {name: bool(state[name]) for name in layout}
     return [] if kept == layout else [f"saved as {kept}"]
 
 
@@ -132,19 +128,17 @@ def check_switching(desk):
             happens(lambda: desk.has_keyboard(other), 1.0)
             xdotool("windowactivate", calculator.window.id)
             happens(calculator.has_keyboard)
-            time.sleep(rest)
             for _ in range(ROUNDS_OF_SWITCHING):
-                if not switch(desk, other, holds):
-                    faults.append(f"{name}: the focus stays")
-                time.sleep(rest)
-                if not switch(desk, calculator.window, holds):
-                    faults.append(f"{name}: the focus doesn't come back")
+                for window, fault in ((other, "stays"), (calculator.window, "doesn't come back")):
+                    time.sleep(rest)
+                    if not switch(desk, window, holds):
+                        faults.append(f"{name}: the focus {fault}")
                 xdotool("key", *SUM)
             state = calculator.end()
         stack = [number(state, f"reg[{index}]") for index in range(ROUNDS_OF_SWITCHING)]
-        stored = [index for index in range(21) if number(state, f"mem[{index}]") != 0]
+        stored = [key for key in state if key.startswith("mem[") and number(state, key) != 0]
         faults += [f"{name}: the stack is {stack}"] if set(stack) != {15} else []
-        faults += [f"{name}: registers {stored} were stored"] if stored else []
+        faults += [f"{name}: {stored} were stored"] if stored else []
     return faults
 
 

@@ -20,14 +20,10 @@ COLUMNS = {"start": check_start, "keys": check_keys, "layouts": check_layouts,
 SECONDS_FOR_A_ROW = 300
 
 
-class OutOfTime(Exception):
-    pass
-
-
 @contextlib.contextmanager
 def time_limit(seconds):
     def give_up(*_):
-        raise OutOfTime
+        raise TimeoutError(f"gave up after {seconds} s")
 
     signal.signal(signal.SIGALRM, give_up)
     signal.alarm(seconds)
@@ -37,23 +33,18 @@ def time_limit(seconds):
         signal.alarm(0)
 
 
-def faults_of(check, desk):
-    try:
-        return check(desk)
-    except AssertionError as error:
-        return [str(error)]
-
-
 def row(manager, options):
     """The faults of each column; those it didn't come to are missing."""
     faults = {}
     try:
-        with time_limit(SECONDS_FOR_A_ROW), session(manager, options.display), \
-                contextlib.closing(Desk(options.program, manager.switch)) as desk:
+        with time_limit(SECONDS_FOR_A_ROW), session(manager, options.display):
+            desk = Desk(options.program, manager.switch)
             for name in options.columns:
-                faults[name] = faults_of(COLUMNS[name], desk)
-    except OutOfTime:
-        print(f"{manager.name}: gave up after {SECONDS_FOR_A_ROW} s", file=sys.stderr)
+                try:
+                    faults[name] = COLUMNS[name](desk)
+                except AssertionError as error:
+                    faults[name] = [str(error)]
+            desk.display.close()
     except Exception:
         traceback.print_exc()  # the other window managers have their turn
     return faults
@@ -89,7 +80,7 @@ def main():
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     print("|", " | ".join(["", *options.columns]), "|")
     print("|", " | ".join("---" for _ in ["", *options.columns]), "|")
-    is_right, reasons = True, []
+    is_right, reasons = True, {}
     for manager in MANAGERS:
         if options.managers and manager.name not in options.managers:
             continue
@@ -99,9 +90,9 @@ def main():
         print("|", " | ".join([manager.name, *cells]), "|", flush=True)
         for name in options.columns:
             known = [accepted(manager, name, fault) for fault in faults.get(name, [])]
-            reasons += sum(known, [])
+            reasons |= dict.fromkeys(sum(known, []))
             is_right &= name in faults and all(known)
-    for each in dict.fromkeys(reasons):
+    for each in reasons:
         print(f"(accepted of {each.manager}, {each.column}: it {each.reason})")
     return 0 if is_right else 1
 
