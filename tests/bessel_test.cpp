@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 #include "numeric/DYXnan.h"
 #include "oracle/hard_numbers.h"
@@ -54,7 +53,6 @@ TEST(Bessel, HasTheBitsOfItsFormula) {
 }
 
 TEST(Bessel, FailsAsAnErrorValue) {
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
     const double bad = DYXnan('B');
     const double overflow = DYXnan('\0');
     const struct {

@@ -3,12 +3,12 @@
 #include <array>
 #include <cmath>
 #include <functional>
-#include <limits>
 #include <set>
 #include <string>
 #include <utility>
 
 #include "numeric/DYXnan.h"
+#include "same_bits.h"
 #include "state/ZUStringExtensions.h"
 #include "window_fixture.h"
 
@@ -16,8 +16,6 @@ namespace talvex {
 namespace {
 
 using Text = std::u16string;
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 class Pasteboard : public WindowTest {
   protected:

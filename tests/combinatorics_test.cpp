@@ -4,7 +4,6 @@
 
 #include <cmath>
 #include <cstdint>
-#include <limits>
 
 #include "numeric/DYXnan.h"
 #include "numeric/bit_operations.h"
@@ -16,8 +15,6 @@
 
 namespace talvex {
 namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 // A product of more than a hundred bits, rounded in `nearest`.
 struct LongProduct {

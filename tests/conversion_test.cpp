@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <map>
 #include <set>
 #include <sstream>
@@ -18,8 +17,6 @@
 
 namespace talvex {
 namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 Comand commandOf(const ConverterRow& row) {
     return {.category = fourCC("conv"), .action = row.action, .group = row.group.code};

@@ -27,8 +27,6 @@ namespace {
 
 using Limits = std::numeric_limits<double>;
 
-constexpr double kInfinity = Limits::infinity();
-
 // The C library's, which rounds the exact value half to even.
 std::string printed(const char* format, int places, double value) {
     std::setlocale(LC_ALL, "C");

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <ostream>
 #include <string>
 #include <utility>
 
@@ -10,12 +10,38 @@
 #include "display/ZUMutableStringExtensions.h"
 #include "display_format_tables.h"
 #include "numeric/DYXnan.h"
-#include "shown_line.h"
+#include "same_bits.h"
 
 namespace talvex {
 namespace {
 
 using Text = std::u16string;
+
+// What a line shows, slot by slot.
+struct Shown {
+    Text mantissa = {};
+    Text exponent = {};
+    Text exponentSign = {};
+    Text sign = {};
+    Text status = {};
+    bool operator==(const Shown&) const = default;
+};
+
+void PrintTo(const Shown& shown, std::ostream* out) {
+    for (const auto& text : {shown.sign, shown.mantissa, shown.exponentSign, shown.exponent}) {
+        *out << testing::PrintToString(text) << ' ';
+    }
+    *out << testing::PrintToString(shown.status);
+}
+
+Shown shownBy(const DYXOutputDisplay& line) {
+    const auto textOf = [](const TextSlot& slot) { return slot ? slot->stringValue() : Text(); };
+    return {.mantissa = textOf(line.mantissaField()),
+            .exponent = textOf(line.exponentField()),
+            .exponentSign = textOf(line.exponentSignField()),
+            .sign = textOf(line.mantissaSignField()),
+            .status = textOf(line.statusField())};
+}
 
 // The modes that neither wrap a negative number nor warn of it.
 bool hasSignSlot(std::int32_t mode) { return mode <= mode::CAR || mode == mode::IRR; }
@@ -81,7 +107,6 @@ TEST(DisplayFormat, GroupsBySizeButScientificAlwaysByThree) {
 
 TEST(DisplayFormat, ShowsErrorsAndInfinitiesAsWordsInAnyMode) {
     DYXOutputDisplay line(plainFields());
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
     for (std::int32_t number = -1; number <= mode::count; ++number) {
         SCOPED_TRACE(number);
         line.setOutputMode(mode::HEX);

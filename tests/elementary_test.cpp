@@ -16,7 +16,6 @@ namespace {
 
 using Checked = double (*)(const DYXMathContext&, double);
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kLeast = std::numeric_limits<double>::denorm_min();
 constexpr double kLowest = -2147483648.0;
 const double kIndeterminate = DYXnan('\0');

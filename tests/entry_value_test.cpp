@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <limits>
 #include <vector>
 
 #include "display/display_modes.h"
@@ -30,7 +29,6 @@ Table table(std::int32_t mode, std::uint32_t digits, const Rows&... rows) {
     return {mode, digits, {rows...}};
 }
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kHour = 12.0 + 34.0 / 60.0;
 
 const std::vector kTables{

@@ -7,11 +7,10 @@
 
 #include "numeric/DYXnan.h"
 #include "numeric/integer_conversion.h"
+#include "same_bits.h"
 
 namespace talvex {
 namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 TEST(ErrorValue, IsAQuietNaNWithTheCodeInItsLowBits) {
     const std::pair<char, std::uint64_t> rows[]{

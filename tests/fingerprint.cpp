@@ -15,23 +15,6 @@ namespace {
 
 constexpr int kOperands = 3000;
 
-class Fingerprint {
-  public:
-    void add(double result) {
-        hash_ = (hash_ ^ std::bit_cast<std::uint64_t>(result)) * 1099511628211U;
-        hash_ ^= hash_ >> 29U;
-    }
-    void print(std::uint32_t action) const {
-        for (unsigned place = 0; place < 4; ++place) {
-            std::putchar(characterOf(action, place));
-        }
-        std::printf(" %016llx\n", static_cast<unsigned long long>(hash_));
-    }
-
-  private:
-    std::uint64_t hash_ = 14695981039346656037U;
-};
-
 DYXMathContext contextOf(int round) {
     DYXMathContext context;
     context.angleMode = AngleMode{round % 5};
@@ -40,39 +23,41 @@ DYXMathContext contextOf(int round) {
     return context;
 }
 
-double operand(HardNumbers& numbers, int round) {
-    return round % 3 == 0 ? numbers.between(-10.0, 60.0) : numbers.next();
-}
-
-void printAll() {
+// A line for each row of a table; `result` is asked for one of its results.
+template <class Rows, class Result>
+void printRows(const Rows& rows, Result result) {
+    constexpr int kOperands = 3000;
     HardNumbers numbers(5);
-    for (const UnaryRow& row : unitaries()) {
-        Fingerprint print;
+    for (const auto& row : rows) {
+        std::uint64_t hash = 14695981039346656037U;
         for (int round = 0; round < kOperands; ++round) {
-            print.add(row(contextOf(round), operand(numbers, round)));
+            const double x = round % 3 == 0 ? numbers.between(-10.0, 60.0) : numbers.next();
+            const double y = round % 9 == 0 ? numbers.between(-10.0, 60.0) : numbers.next();
+            const double each = result(row, contextOf(round), x, y);
+            hash = (hash ^ std::bit_cast<std::uint64_t>(each)) * 1099511628211U;
+            hash ^= hash >> 29U;
         }
-        print.print(row.action);
-    }
-    for (const BinaryRow& row : binaries()) {
-        Fingerprint print;
-        for (int round = 0; round < kOperands; ++round) {
-            const double x = operand(numbers, round);
-            print.add(row(contextOf(round), x, operand(numbers, round / 3)));
+        for (unsigned place = 0; place < 4; ++place) {
+            std::putchar(characterOf(row.action, place));
         }
-        print.print(row.action);
-    }
-    for (const ConverterRow& row : converters()) {
-        Fingerprint print;
-        for (int round = 0; round < kOperands / 10; ++round) {
-            const double value = operand(numbers, round);
-            print.add(row.toBase(contextOf(round), value));
-            print.add(row.fromBase(contextOf(round), value));
-        }
-        print.print(row.action);
+        std::printf(" %016llx\n", static_cast<unsigned long long>(hash));
     }
 }
 
 }  // namespace
 }  // namespace talvex
 
-int main() { talvex::printAll(); }
+int main() {
+    using namespace talvex;
+    using Context = DYXMathContext;
+    printRows(unitaries(), [](const UnaryRow& row, const Context& context, double x, double) {
+        return row(context, x);
+    });
+    printRows(binaries(), [](const BinaryRow& row, const Context& context, double x, double y) {
+        return row(context, x, y);
+    });
+    printRows(converters(),
+              [](const ConverterRow& row, const Context& context, double x, double y) {
+                  return x < y ? row.toBase(context, x) : row.fromBase(context, x);
+              });
+}

@@ -5,8 +5,11 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace talvex {
+
+inline constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 // The same bits; of a NaN of ordinary arithmetic the sign is the processor's business.
 inline testing::AssertionResult isSame(double actual, double expected) {

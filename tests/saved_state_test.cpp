@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <limits>
 #include <set>
 #include <string>
 #include <tuple>
@@ -28,8 +27,6 @@ namespace talvex {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 class SavedFile : public testing::Test {
   protected:

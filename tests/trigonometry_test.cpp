@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <limits>
 
 #include "core/Comand.h"
 #include "core/function_tables.h"
@@ -17,8 +16,6 @@ namespace talvex {
 namespace {
 
 using Checked = double (*)(const DYXMathContext&, double);
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 DYXMathContext contextOf(AngleMode angleMode, bool inverse = false, bool hyperbolic = false) {
     DYXMathContext context;

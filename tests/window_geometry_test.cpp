@@ -1,6 +1,5 @@
 // The six layouts of the window, its place on the screen, and the drawers around it.
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
@@ -72,7 +71,7 @@ TEST_F(Layouts, HasSixLayoutsThatKeepTheTopLeftCorner) {
     }
 }
 
-TEST_F(Layouts, FindsAPlaceOnTheScreen) {
+TEST(Screens, HaveAPlaceForAWindow) {
     const std::vector<NSRect> screens{{0, 40, 1000, 760}, {1000, 0, 1920, 1080}};
     EXPECT_EQ(centerRectOnScreen(screens, {7, 7, 404, 233}), (NSRect{298, 303.5, 404, 233}));
     EXPECT_EQ(centerRectOnScreen(screens, {7, 7, 1001, 233}), (NSRect{40, 193, 1001, 233}));
@@ -213,26 +212,6 @@ TEST_F(Layouts, OpensADrawerAgainWholeThatWasDraggedShut) {
         const NSRect& frame = key.button->frame();
         EXPECT_TRUE(frame.x >= 5 && frame.x + frame.width <= whole.width - 5);
     }
-}
-
-// A drawer at rest shows whole columns or rows.
-TEST_F(Layouts, CutsNoKeyAtAnyRestingPlace) {
-    const auto expectWhole = [this](DrawerName name, const std::vector<Key>& keys,
-                                    const std::vector<double>& last) {
-        const std::vector<double>& positions = drawers[name].positions;
-        EXPECT_TRUE(std::equal(last.rbegin(), last.rend(), positions.rbegin()));
-        for (const double edge : positions) {
-            for (const Key& key : keys) {
-                const NSRect& frame = key.button->frame();
-                const bool isLevel = drawer(name).isLevel();
-                const double start = isLevel ? frame.y : frame.x;
-                const double end = start + (isLevel ? frame.height : frame.width);
-                EXPECT_TRUE(start >= edge || end <= edge) << edge;
-            }
-        }
-    };
-    expectWhole(DrawerName::constants, views.constantsPanel.keys, {133, 91, 47});
-    expectWhole(DrawerName::functions, views.functionsPanel.keys, {98, 73, 47});
 }
 
 }  // namespace

@@ -65,26 +65,6 @@ class Window : public WindowTest {
     CalculatorWindow window{controller};
 };
 
-TEST_F(Window, HasSixLayoutsToThePixel) {
-    const std::pair<void (WindowGeometry::*)(), QSize> steps[]{
-        {&WindowGeometry::takeShowStatusLineFrom, {404, 250}},
-        {&WindowGeometry::takeShowYZTRegistersFrom, {404, 310}},
-        {&WindowGeometry::takeShowStatusLineFrom, {404, 293}},
-        {&WindowGeometry::takeShowKeyPadFrom, {274, 127}},
-        {&WindowGeometry::takeShowYZTRegistersFrom, {274, 67}},
-        {&WindowGeometry::takeShowKeyPadFrom, {404, 233}}};
-    const QPoint corner = window.bodyRect().topLeft();
-    for (const int isStill : {0, 1}) {
-        choose<&Settings::animateWindow>(1 - isStill);
-        for (const auto& [change, size] : steps) {
-            (geometry.*change)();
-            const QRect body(corner, size);
-            EXPECT_TRUE(QTest::qWaitFor([&] { return window.bodyRect() == body; }))
-                << isStill << ' ' << size.height();
-        }
-    }
-}
-
 TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
     constexpr std::array<QPoint, 4> kOutward{{{-1, 0}, {0, 1}, {1, 0}, {0, -1}}};  // of the edges
     const struct {
