@@ -96,18 +96,17 @@ TEST_P(DecimalText, ReadsEveryFormOfANumberAndBothSidesOfTheRange) {
         {"1e+5", 1e5},
         {"1e-05", 1e-5},
         {"007.250", 7.25},
-        {"1e309", kInfinity},
         {nines, kInfinity},
         {nines + "e-400", 1.0},
         {"1e-400", 0.0},
         {"0." + zeros + "1e900", kInfinity},
         {"0." + zeros + "1e401", 1.0},
         {"1e99999999999999999999", kInfinity},
+        {"0.000e99999999999999999999", 0.0},
         {"1.7976931348623158e308", Limits::max()},
         {"1.7976931348623159e308", kInfinity},
         {"2.4703282292062327e-324", 0.0},
-        {"2.4703282292062328e-324", Limits::denorm_min()},
-        {"0.000e99999999999999999999", 0.0}};
+        {"2.4703282292062328e-324", Limits::denorm_min()}};
     for (const auto& [text, value] : rows) {
         EXPECT_TRUE(isSame(parseDecimal(text).value_or(-1.0), value)) << text;
         EXPECT_TRUE(isSame(parseDecimal('+' + text).value_or(-1.0), value)) << text;

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "display/DYXOutputDisplay.h"
-#include "display/ZUMutableStringExtensions.h"
 #include "display_format_tables.h"
 #include "numeric/DYXnan.h"
 #include "same_bits.h"
@@ -120,30 +119,6 @@ TEST(DisplayFormat, ShowsErrorsAndInfinitiesAsWordsInAnyMode) {
         line.setOutputTo(kInfinity);
         EXPECT_EQ(shownBy(line), (Shown{u"\u221E"}));
     }
-}
-
-TEST(DigitGroups, StandBehindFullGroupsOnly) {
-    using namespace ZUMutableStringExtensions;
-    const struct {
-        Text text, separator;
-        std::uint32_t size;
-        Text decimals, integers;
-    } rows[]{{u"123456.123456", u"_", 3, u"123456.123_456", u"123_456.123456"},
-             {u"1234,1234", u"ab", 3, u"1234,123ab4", u"1ab234,1234"},
-             {u"1234.", u"_", 2, u"1234.", u"12_34."},
-             {u"1.23", u"", 1, u"1.23", u"1.23"},
-             {u".1234", u"_", 3, u".123_4", u".1234"}};
-    for (const auto& row : rows) {
-        Text decimals = row.text;
-        insertDecimalSeparatorEvery(decimals, row.separator, row.size);
-        EXPECT_EQ(decimals, row.decimals);
-        Text integers = row.text;
-        insertIntegerSeparatorEvery(integers, row.separator, row.size);
-        EXPECT_EQ(integers, row.integers);
-    }
-    Text text = u"a--b---c";
-    replaceOccurancesOfStringWithCharacter(text, u"--", u'-');
-    EXPECT_EQ(text, u"a-b--c");
 }
 
 }  // namespace

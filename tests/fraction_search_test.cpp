@@ -20,27 +20,20 @@ double neighbour(HardNumbers& numbers, double value) {
     return value;
 }
 
-// Neighbours of fractions with denominators around the limit and of multiples of pi; just off a
-// half; tiny; nearly whole; convergents of quadratic irrationals; halfway between two fractions of
-// the largest denominators; random.
+// Neighbours of fractions with denominators around the limit and of multiples of pi; tiny or nearly
+// whole; halfway between two fractions of the largest denominators; random.
 double hardNumber(HardNumbers& numbers, int limit) {
-    const auto near = [&] { return std::ldexp(numbers.between(-1.0, 1.0), -numbers.below(60)); };
-    const auto ratio = [&](int most) { return numbers.below(most) / (1.0 + numbers.below(most)); };
-    switch (numbers.below(8)) {
+    const double near = std::ldexp(numbers.between(-1.0, 1.0), -numbers.below(60));
+    const double ratio = numbers.below(2 * limit) / (1.0 + numbers.below(2 * limit));
+    switch (numbers.below(5)) {
         case 0:
-            return neighbour(numbers, ratio(limit));
+            return neighbour(numbers, ratio);
         case 1:
-            return neighbour(numbers, ratio(2 * limit));
+            return neighbour(numbers, 3.141592653589793 * ratio);
         case 2:
-            return neighbour(numbers, 3.141592653589793 * ratio(5000));
+            return near / 2.0 + numbers.below(2) / 2.0;
         case 3:
-            return 0.5 + near() / 2.0;
-        case 4:
-            return near();
-        case 5:
-            return std::sqrt(2.0 + numbers.below(5000));
-        case 6:
-            return numbers.below(2 * limit) / (2.0 * limit) + near() / limit;
+            return numbers.below(2 * limit) / (2.0 * limit) + near / limit;
         default:
             return numbers.between(0.0, 1.0);
     }

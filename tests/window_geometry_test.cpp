@@ -138,12 +138,6 @@ TEST_F(Layouts, WaitsForOpenDrawersBeforeTheKeyPadGoes) {
     EXPECT_EQ(memory.state(), NSDrawerOpeningState);
     EXPECT_EQ(functions.state(), NSDrawerOpeningState);
     EXPECT_EQ(drawer(DrawerName::constants).state(), NSDrawerClosedState);
-
-    // A drawer that closes by itself leaves the window alone.
-    memory.finishSliding();
-    drawers.toggleDrawer(DrawerName::memory);
-    memory.finishSliding();
-    EXPECT_EQ(contentSize(), (NSSize{404, 211}));
 }
 
 TEST_F(Layouts, LetsADraggedDrawerRestAtTheNearestPosition) {
