@@ -61,9 +61,7 @@ void addModes(Corpora& corpora) {
     for (const FormatTable& table : kFormatTables) {
         for (const Row& row : table.rows) {
             corpora.add("display_fuzz", displayInput(table, row));
-            std::string text;
-            append(text, static_cast<std::int8_t>(table.settings.outputMode));
-            append(text, std::uint8_t{0});
+            std::string text(1, '\0');
             append(text, row.number);
             corpora.add("text_fuzz", text + shortestText(row.number));
         }
@@ -95,7 +93,7 @@ void addExamples(Corpora& corpora, const fs::path& templates) {
         }
     }
     for (const KeyCaps::Cap& cap : caps.all()) {
-        corpora.add("text_fuzz", std::string(10, '\0') + utf8(cap.title));
+        corpora.add("text_fuzz", std::string(9, '\0') + utf8(cap.title));
     }
 }
 

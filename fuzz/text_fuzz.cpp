@@ -1,5 +1,5 @@
 // Texts of any kind: simple TeX becomes text of the same characters without marks; a number becomes
-// text and the same number again; any text pasted leaves a whole calculator.
+// text and the same number again; any text begins with a number, or counts as 0.
 
 #include <algorithm>
 #include <cmath>
@@ -7,11 +7,9 @@
 #include <cstring>
 #include <string>
 
-#include "core/DYXCalculator.h"
 #include "fuzz_input.h"
 #include "numeric/decimal_text.h"
-#include "platform/HeadlessPlatform.h"
-#include "ui/DYXWindowController.h"
+#include "state/ZUStringExtensions.h"
 #include "ui/printed_number.h"
 #include "ui/simple_tex.h"
 
@@ -46,24 +44,12 @@ void checkNumber(double number) {
     require(!printedNumber(number).empty());
 }
 
-void checkPaste(DYXWindowController& calculator, HeadlessPlatform& platform,
-                const std::u16string& text) {
-    platform.pasteboard = text;
-    calculator.clipboard().paste();
-    require(!std::isnan(calculator.calculator().stack().reg[0]));
-    require(calculator.calculator().inputState() != InputState::entering);
-    calculator.clipboard().copy();
-    require(platform.pasteboard && platform.pasteboard->size() < 5000);
-    calculator.clipboard().paste();
-}
-
 }  // namespace
 }  // namespace talvex
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace talvex;
     FuzzInput input({data, size});
-    const auto mode = input.take<std::int8_t>();
     checkNumber(input.takeNumber());
     std::u16string text;
     while (!input.isAtEnd()) {
@@ -71,10 +57,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         text += byte < 0xF0 ? static_cast<char16_t>(byte) : input.take<char16_t>();
     }
     checkTex(text);
-    HeadlessPlatform platform;
-    DYXWindowController calculator(platform);
-    calculator.choose(settingRow<&Settings::outputDisplayMode>(), mode);
-    calculator.choose(settingRow<&Settings::inputDisplayMode>(), mode);
-    checkPaste(calculator, platform, text);
+    require(!std::isnan(ZUStringExtensions::internationalDoubleValue(text)));
     return 0;
 }
