@@ -1,4 +1,4 @@
-// Functions against results of arbitrary precision; make_reference_values.py tells how those came
+// Functions against results of arbitrary precision; make_reference_values.py says how those came
 // about.
 
 #include <gtest/gtest.h>
@@ -34,12 +34,12 @@ TEST(ReferenceValues, AreMetWithinTheToleranceOfEachFunction) {
     int rows = 0;
     for (std::string line; std::getline(file, line); ++rows) {
         SCOPED_TRACE(line);
-        std::array<std::string, 7> fields;
+        std::array<std::string, 6> fields;
         std::istringstream stream(line);
         for (std::string& field : fields) {
             std::getline(stream, field, ',');
         }
-        const auto& [what, name, angleMode, tolerance, x, y, expected] = fields;
+        const auto& [name, angleMode, tolerance, x, y, expected] = fields;
         const auto number = [](const std::string& text) { return std::strtod(text.c_str(), {}); };
         const Comand command = commandFromString(asciiText(name));
         DYXMathContext context;
