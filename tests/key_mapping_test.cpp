@@ -15,7 +15,7 @@ QKeyEvent event(int key, std::uint32_t keysym, const QString& text = {}) {
     return {QEvent::KeyPress, key, {}, 10, keysym, 0, text};
 }
 
-TEST(KeyMapping, TellsTheCharacterWithoutControlAndAlt) {
+TEST(KeyMapping, SaysTheCharacterWithoutControlAndAlt) {
     const struct {
         const char* name;
         QKeyEvent event;
@@ -23,21 +23,17 @@ TEST(KeyMapping, TellsTheCharacterWithoutControlAndAlt) {
     } rows[]{
         {"Ctrl+S", event(Qt::Key_S, XKB_KEY_s, "\x13"), u's'},
         {"Ctrl+Alt+3", event(Qt::Key_3, XKB_KEY_3, "\x1B"), u'3'},
-        {"Shift+E", event(Qt::Key_E, XKB_KEY_E, "E"), u'E'},
         {"AltGr+Q on a German layout", event(Qt::Key_At, XKB_KEY_at, "@"), u'@'},
         {"dead circumflex", event(Qt::Key_Dead_Circumflex, XKB_KEY_dead_circumflex), u'^'},
         {"dead tilde", event(Qt::Key_Dead_Tilde, XKB_KEY_dead_tilde), u'~'},
         {"dead acute", event(Qt::Key_Dead_Acute, XKB_KEY_dead_acute), 0},
         {"a Cyrillic letter", event(0x42B, XKB_KEY_Cyrillic_yeru, "\u044B"), u'\u044B'},
-        {"keypad 7", event(Qt::Key_7, XKB_KEY_KP_7, "7"), u'7'},
         {"keypad comma", event(Qt::Key_Comma, XKB_KEY_KP_Separator, ","), u','},
         {"keypad Enter", event(Qt::Key_Enter, XKB_KEY_KP_Enter, "\r"), u'\x03'},
         {"Shift+Tab", event(Qt::Key_Backtab, XKB_KEY_ISO_Left_Tab), u'\x19'},
-        {"F5", event(Qt::Key_F5, XKB_KEY_F5), 0},
         {"AltGr", event(Qt::Key_AltGr, XKB_KEY_ISO_Level3_Shift), 0},
         {"an emoji", event(0, 0x101F600, "x"), 0},
         {"no keysym, a text", event(Qt::Key_Plus, 0, "+"), u'+'},
-        {"no keysym, no text", event(Qt::Key_5, 0), u'5'},
         {"nothing", event(0, 0), 0},
     };
     for (const auto& row : rows) {

@@ -1,7 +1,6 @@
 // What a calculator brings back after its end, and what it makes of files that it never wrote.
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <array>
 #include <bit>
@@ -14,6 +13,7 @@
 #include <tuple>
 #include <utility>
 
+#include "PrivateHome.h"
 #include "edit_state.h"
 #include "numeric/DYXnan.h"
 #include "platform/HeadlessPlatform.h"
@@ -30,27 +30,23 @@ namespace fs = std::filesystem;
 
 class SavedFile : public testing::Test {
   protected:
-    SavedFile() {
-        std::string name = (fs::temp_directory_path() / "talvex-XXXXXX").string();
-        home = ::mkdtemp(name.data());
-        platform.home = home.string();
-    }
-    ~SavedFile() override { fs::remove_all(home); }
+    SavedFile() { platform.home = home.string(); }
 
     void put(const fs::path& path, const std::string& bytes) const {
         fs::create_directories(path.parent_path());
         std::ofstream(path, std::ios::binary) << bytes;
     }
     [[nodiscard]] std::string bytesOf(const fs::path& path) const {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::ifstream stream(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
     }
     [[nodiscard]] fs::path copy(const std::string& word) const {
-        return file().string() + '.' + word;
+        return file.string() + '.' + word;
     }
-    [[nodiscard]] fs::path file() const { return StateFile(home).saveDataPath(); }
 
-    fs::path home;
+    const PrivateHome privateHome;
+    const fs::path home = privateHome.folder();
+    const fs::path file = privateHome.file();
     HeadlessPlatform platform;
 };
 
@@ -63,11 +59,8 @@ PropertyData dataOf(double number) {
 void chooseAll(NSMenu& menu) {
     for (NSMenuItem& item : menu.items) {
         chooseAll(item.submenu);
-        if (item.validation) {
-            item.validation(item);
-            if (item.enabled) {
-                item.action(item);
-            }
+        if (item.validation && item.enabled) {
+            item.action(item);
         }
     }
 }
@@ -96,6 +89,7 @@ TEST_F(SavedFile, BringsEverythingBackToTheBit) {
     for (const DrawerName name : kDrawerNames) {
         first.drawers().toggleDrawer(name);
     }
+    validateMenu(first.views().menu);
     chooseAll(first.views().menu);
     first.choose(settingRow<&Settings::outputDisplayMode>(), mode::CAR);
     first.views().conversionPanel.tabView->selectTabViewItemAtIndex(3);
@@ -120,7 +114,7 @@ TEST_F(SavedFile, BringsEverythingBackToTheBit) {
 
 TEST_F(SavedFile, EndsALiveEntryAsEnterDoesAndASaveDoesnt) {
     DYXWindowController calculator(platform);
-    for (const char16_t key : std::u16string_view(u"42")) {
+    for (const char16_t key : {u'4', u'2'}) {
         calculator.keyDown({.type = NSKeyDown, .charactersIgnoringModifiers = {key}});
     }
     calculator.saveDocument();
@@ -146,10 +140,10 @@ TEST_F(SavedFile, RevertsToWhatWasSaved) {
 }
 
 TEST_F(SavedFile, LeavesTheLayoutAloneWithoutAFrame) {
-    put(file(), writePropertyList({{"keyPadHidden", true},
-                                   {"displayViewMode", std::int64_t{1}},
-                                   {"digits", std::int64_t{7}}},
-                                  PropertyListFlavour::xml));
+    put(file, writePropertyList({{"keyPadHidden", true},
+                                 {"displayViewMode", std::int64_t{1}},
+                                 {"digits", std::int64_t{7}}},
+                                PropertyListFlavour::xml));
     DYXWindowController calculator(platform);
     EXPECT_EQ(calculator.calculator().xDisplay().digits(), 7U);
     calculator.drawers().toggleDrawer(DrawerName::memory);
@@ -234,13 +228,13 @@ TEST_F(SavedFile, UnderstandsOlderKeysAndOtherKinds) {
 TEST_F(SavedFile, KeepsAFileThatItCantRead) {
     SavedState state;
     for (const char* content : {"no property list", "", "bplist00 neither"}) {
-        put(file(), content);
+        put(file, content);
         EXPECT_FALSE(StateFile(home).read());
         EXPECT_FALSE(StateFile(home).write(state));
     }
     EXPECT_EQ(bytesOf(copy("damaged")), "no property list");
     EXPECT_EQ(bytesOf(copy("damaged-3")), "bplist00 neither");
-    put(file(), "no property list");
+    put(file, "no property list");
     EXPECT_FALSE(StateFile(home).write(state));
     EXPECT_FALSE(fs::exists(copy("damaged-4")));
 }
@@ -260,24 +254,25 @@ TEST_F(SavedFile, KeepsTheLatestFilesThatCameMeanwhile) {
         EXPECT_FALSE(second.write({}));
     }
     std::set<double> kept;
-    for (const auto& entry : fs::directory_iterator(file().parent_path())) {
+    for (const auto& entry : fs::directory_iterator(file.parent_path())) {
         kept.insert(savedStateFrom(readPropertyList(bytesOf(entry.path()))->values).reg[0]);
     }
-    EXPECT_EQ(std::distance(fs::directory_iterator(file().parent_path()), {}), 21);
+    EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), {}), 21);
     EXPECT_EQ(kept.count(3), 0U);
     EXPECT_EQ(kept.count(25), 1U);
 }
 
 TEST_F(SavedFile, SaysThatASaveFailed) {
     EXPECT_TRUE(StateFile(fs::path()).write({}));
+    fs::remove_all(home / "Library");
     put(home / "Library", "a file in the folder's place");
     DYXWindowController calculator(platform);
     calculator.saveDocument();
     ASSERT_EQ(platform.notifications.size(), 1U);
-    EXPECT_NE(platform.notifications[0].find(file().string() + ": Not a dir"), std::string::npos)
+    EXPECT_NE(platform.notifications[0].find(file.string() + ": Not a dir"), std::string::npos)
         << platform.notifications[0];
     fs::remove(home / "Library");
-    fs::create_directories(file());  // a folder in the file's place
+    fs::create_directories(file);  // a folder in the file's place
     calculator.applicationWillTerminate();
     EXPECT_TRUE(fs::is_directory(copy("damaged")));
     EXPECT_EQ(platform.notifications.size(), 1U);

@@ -43,23 +43,21 @@ class Window : public WindowTest {
         drawers.toggleDrawer(name);
         ASSERT_TRUE(QTest::qWaitFor([&] { return drawer(name).state() == NSDrawerOpenState; }));
     }
-    DrawerWidget* widgetOf(const NSDrawer& record) {
-        for (QObject* const each : window.children()) {
-            auto* const widget = dynamic_cast<DrawerWidget*>(each);
-            if (widget != nullptr && &widget->record() == &record) {
+    template <class Widget, class Is>
+    Widget* find(Is is) {
+        for (auto* const each : window.findChildren<QWidget*>()) {
+            auto* const widget = dynamic_cast<Widget*>(each);
+            if (widget != nullptr && is(*widget)) {
                 return widget;
             }
         }
+        ADD_FAILURE() << "no such widget";
         return nullptr;
     }
     QAbstractButton* button(const QString& name) {
-        for (auto* const each : window.findChildren<QAbstractButton*>()) {
-            if (each->accessibleName() == name && each->isVisible()) {
-                return each;
-            }
-        }
-        ADD_FAILURE() << "no button " << name.toStdString();
-        return nullptr;
+        return find<QAbstractButton>([&](const QAbstractButton& each) {
+            return each.accessibleName() == name && each.isVisible();
+        });
     }
 
     CalculatorWindow window{controller};
@@ -79,8 +77,8 @@ TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
         NSDrawer& record = drawer(row.name);
         SCOPED_TRACE(static_cast<int>(row.name));
         open(row.name);
-        DrawerWidget* const widget = widgetOf(record);
-        ASSERT_NE(widget, nullptr);
+        auto* const widget =
+            find<DrawerWidget>([&](const DrawerWidget& each) { return &each.record() == &record; });
         const auto depth = [&record](const auto& size) {
             return record.isLevel() ? size.height : size.width;
         };
