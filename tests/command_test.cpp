@@ -156,7 +156,7 @@ TEST(UnknownCommands, ChangeNothingAndAreRecorded) {
 
 TEST(UnknownModes, ShowAndTakeNumbersAsFixDoes) {
     using Numbers = std::numeric_limits<std::int32_t>;
-    for (const std::int32_t number : {13, -1, Numbers::max(), Numbers::min()}) {
+    for (const std::int32_t number : {mode::count, -1, Numbers::max(), Numbers::min()}) {
         KeyScript script;
         script.inMode(number);
         script.press("1 2 ENTER 3 +");

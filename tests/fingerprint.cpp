@@ -26,7 +26,6 @@ DYXMathContext contextOf(int round) {
 // A line for each row of a table; `result` is asked for one of its results.
 template <class Rows, class Result>
 void printRows(const Rows& rows, Result result) {
-    constexpr int kOperands = 3000;
     HardNumbers numbers(5);
     for (const auto& row : rows) {
         std::uint64_t hash = 14695981039346656037U;
