@@ -7,9 +7,7 @@
 #include <limits>
 #include <utility>
 
-#include "core/function_tables.h"
 #include "key_script.h"
-#include "same_bits.h"
 
 namespace talvex {
 namespace {
@@ -91,23 +89,6 @@ TEST(Memory, KeysReachTwentyRegistersAndDirectFormsNineteen) {
         }
         EXPECT_EQ(script.calculator.mem(), expected) << key;
         EXPECT_EQ(script.calculator.modifiers(), Modifiers()) << key;
-    }
-}
-
-TEST(Functions, HaveACommandForEveryRowOfTheTables) {
-    KeyScript script;
-    const auto result = [&script](const Comand& command) {
-        script.setStack(0.75, 20.5, 3, 4);
-        script.calculator.doCommand(command);
-        return script.x();
-    };
-    for (const UnaryRow& row : unitaries()) {
-        EXPECT_TRUE(isSame(result({fourCC("unit"), row.action}), row({}, 0.75))) << row.action;
-        EXPECT_EQ(script.y(), 20.5);
-    }
-    for (const BinaryRow& row : binaries()) {
-        EXPECT_TRUE(isSame(result({fourCC("bina"), row.action}), row({}, 0.75, 20.5)));
-        EXPECT_EQ(script.y(), 3);
     }
 }
 
