@@ -26,6 +26,21 @@ void tellOfMissingScreen(QtMsgType type, const QMessageLogContext& /*context*/,
     }
 }
 
+// The program comes to the front, and ends.
+void connectApplication(const QApplication& application, talvex::DYXWindowController& controller,
+                        QObject& window) {
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &window,
+                     [&controller](Qt::ApplicationState state) {
+                         if (state == Qt::ApplicationActive) {
+                             controller.applicationWillBecomeActive();
+                         }
+                     });
+    const auto terminate = [&controller] { controller.applicationWillTerminate(); };
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &window, terminate);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, terminate,
+                     Qt::DirectConnection);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -51,16 +66,7 @@ int main(int argc, char** argv) {
     talvex::HelpPresenter help(controller);
     talvex::CalculatorWindow window(controller);
     const talvex::TerminationSignals terminationSignals;
-    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &window,
-                     [&controller](Qt::ApplicationState state) {
-                         if (state == Qt::ApplicationActive) {
-                             controller.applicationWillBecomeActive();
-                         }
-                     });
-    const auto terminate = [&controller] { controller.applicationWillTerminate(); };
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, &window, terminate);
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, terminate,
-                     Qt::DirectConnection);
+    connectApplication(application, controller, window);
     window.show();
     talvex::giveIconAfterFirstFrame(*window.windowHandle());
     if (controller.views().help.window.isVisible()) {

@@ -98,50 +98,56 @@ void print(const char* what, const Case& item) {
                 item.seconds * 1e3, item.seconds / 16e-3, actionOf(item).c_str(), item.x, item.y);
 }
 
-void run() {
-    Runner runner;
+Case anyCase(const Comand& command, HardNumbers& numbers) {
+    Case item{.command = command, .x = numbers.next(), .y = numbers.next()};
+    if (numbers.between(0.0, 1.0) < 0.2) {  // two operands of the same size
+        item.y = item.x * numbers.between(0.9, 1.1);
+    }
+    return item;
+}
+
+// Orders just above the argument, whose recurrences grow slowest.
+Case besselCase(const Comand& command, HardNumbers& numbers) {
+    const double argument = std::ldexp(numbers.between(1.0, 2.0), int(numbers.between(0, 43)));
+    const double excess = std::ldexp(numbers.between(1.0, 2.0), -int(numbers.between(0, 30)));
+    return {.command = command, .x = argument * (1.0 + excess), .y = argument};
+}
+
+Slowest tryAll(Runner& runner) {
     HardNumbers numbers(6);
     Slowest slowest;
-    const auto tryOne = [&](const Comand& command) {
-        Case item{.command = command, .x = numbers.next(), .y = numbers.next()};
-        if (numbers.between(0.0, 1.0) < 0.2) {  // two operands of the same size
-            item.y = item.x * numbers.between(0.9, 1.1);
-        }
-        item.seconds = runner.time(item);
-        slowest.add(item);
-    };
-    // Orders just above the argument, whose recurrences grow slowest.
-    const auto tryBessel = [&](const Comand& command) {
-        const double argument = std::ldexp(numbers.between(1.0, 2.0), int(numbers.between(0, 43)));
-        const double excess = std::ldexp(numbers.between(1.0, 2.0), -int(numbers.between(0, 30)));
-        Case item{.command = command, .x = argument * (1.0 + excess), .y = argument};
+    const auto tryOne = [&](Case item) {
         item.seconds = runner.time(item);
         slowest.add(item);
     };
     const std::vector<Comand> commands = allCommands();
     for (std::size_t set = 0; set < kSets; ++set) {
-        tryOne(commands[set % commands.size()]);
+        tryOne(anyCase(commands[set % commands.size()], numbers));
     }
-    for (const std::uint32_t action : {fourCC("Jx  "), fourCC("Yx  ")}) {
+    for (const Comand& bessel : {command("bina", "Jx  "), command("bina", "Yx  ")}) {
         for (std::size_t set = 0; set < kSetsOfIteratingFunction; ++set) {
-            tryOne({.category = fourCC("bina"), .action = action});
-            tryBessel({.category = fourCC("bina"), .action = action});
+            tryOne(anyCase(bessel, numbers));
+            tryOne(besselCase(bessel, numbers));
         }
     }
+    return slowest;
+}
 
-    std::vector<Case> again = slowest.cases();
-    std::sort(again.begin(), again.end(),
-              [](const Case& left, const Case& right) { return left.seconds > right.seconds; });
-    print("worst single command, first run", again.front());
+void run() {
+    Runner runner;
+    std::vector<Case> again = tryAll(runner).cases();
+    const auto isQuicker = [](const Case& left, const Case& right) {
+        return left.seconds < right.seconds;
+    };
+    print("worst single command, first run",
+          *std::max_element(again.begin(), again.end(), isQuicker));
     for (Case& item : again) {
         for (int repetition = 0; repetition < kRepetitions; ++repetition) {
             item.seconds = std::min(item.seconds, runner.time(item));
         }
     }
     print("worst single command, best of six",
-          *std::max_element(again.begin(), again.end(), [](const Case& left, const Case& right) {
-              return left.seconds < right.seconds;
-          }));
+          *std::max_element(again.begin(), again.end(), isQuicker));
 }
 
 }  // namespace

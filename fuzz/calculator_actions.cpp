@@ -38,7 +38,8 @@ void appendItems(const NSMenu& menu, std::vector<const NSMenuItem*>& items) {
     }
 }
 
-void chooseFromMenu(DYXWindowController& calculator, FuzzInput& input) {
+void chooseFromMenu(DYXWindowController& calculator, HeadlessPlatform& /*platform*/,
+                    FuzzInput& input) {
     NSMenu& menu = calculator.views().menu;
     validateMenu(menu);
     std::vector<const NSMenuItem*> items;
@@ -49,12 +50,14 @@ void chooseFromMenu(DYXWindowController& calculator, FuzzInput& input) {
     }
 }
 
-void setAnything(DYXWindowController& calculator, FuzzInput& input) {
+void setAnything(DYXWindowController& calculator, HeadlessPlatform& /*platform*/,
+                 FuzzInput& input) {
     const auto value = input.take<std::int32_t>();
     calculator.choose(kSettings.at(input.take<std::uint8_t>() % kSettings.size()), value);
 }
 
-void putNumber(DYXCalculator& calculator, FuzzInput& input) {
+void putNumber(DYXWindowController& controller, HeadlessPlatform& /*platform*/, FuzzInput& input) {
+    DYXCalculator& calculator = controller.calculator();
     CalculatorState state = calculator.state();
     state.stack.reg.at(input.take<std::uint8_t>() % 4) = input.takeNumber();
     calculator.setState(state);
@@ -68,6 +71,48 @@ void changeLocale(DYXWindowController& calculator, HeadlessPlatform& platform, F
     platform.format.groupingSize = kind % 7;
     calculator.applicationWillBecomeActive();
 }
+
+using Action = void (*)(DYXWindowController&, HeadlessPlatform&, FuzzInput&);
+
+void runAnyCode(DYXWindowController& calculator, HeadlessPlatform& /*platform*/, FuzzInput& input) {
+    calculator.doCommand(
+        {input.take<std::uint32_t>(), input.take<std::uint32_t>(), input.take<std::uint32_t>()});
+}
+
+void runText(DYXWindowController& calculator, HeadlessPlatform& /*platform*/, FuzzInput& input) {
+    calculator.doCommand(commandFromString(randomText(input)));
+}
+
+void runLikely(DYXWindowController& calculator, HeadlessPlatform& /*platform*/, FuzzInput& input) {
+    calculator.doCommand(likelyCommand(input));
+}
+
+void holdModifiers(DYXWindowController& calculator, HeadlessPlatform& /*platform*/,
+                   FuzzInput& input) {
+    calculator.flagsChanged({.type = NSFlagsChanged, .modifierFlags = input.take<std::uint32_t>()});
+}
+
+void paste(DYXWindowController& calculator, HeadlessPlatform& platform, FuzzInput& input) {
+    platform.pasteboard = randomText(input);
+    calculator.clipboard().paste();
+}
+
+void typeKey(DYXWindowController& calculator, HeadlessPlatform& /*platform*/, FuzzInput& input) {
+    calculator.keyDown(
+        {.type = NSKeyDown, .charactersIgnoringModifiers = {input.take<char16_t>()}});
+}
+
+void clickKey(DYXWindowController& calculator, HeadlessPlatform& /*platform*/, FuzzInput& input) {
+    const std::vector<Key> keys = calculator.views().allKeys();
+    keys[input.take<std::uint16_t>() % keys.size()].button->performClick();
+}
+
+// What the first byte of an action chooses; the second stands for `kTextCommand`.
+constexpr std::array<Action, 16> kActions{
+    runAnyCode, runText,   holdModifiers, chooseFromMenu, chooseFromMenu, setAnything,
+    putNumber,  paste,     changeLocale,  typeKey,        typeKey,        clickKey,
+    clickKey,   runLikely, runLikely,     runLikely};
+static_assert(kActions.at(kTextCommand) == runText);
 
 // Only the X line has all slots.
 void checkLine(const DYXOutputDisplay& line) {
@@ -93,49 +138,7 @@ void appendCommand(std::string& bytes, std::u16string_view command) {
 }
 
 void act(DYXWindowController& calculator, HeadlessPlatform& platform, FuzzInput& input) {
-    switch (input.take<std::uint8_t>() % 16) {
-        case 0:
-            calculator.doCommand({input.take<std::uint32_t>(), input.take<std::uint32_t>(),
-                                  input.take<std::uint32_t>()});
-            break;
-        case kTextCommand:
-            calculator.doCommand(commandFromString(randomText(input)));
-            break;
-        case 2:
-            calculator.flagsChanged(
-                {.type = NSFlagsChanged, .modifierFlags = input.take<std::uint32_t>()});
-            break;
-        case 3:
-        case 4:
-            chooseFromMenu(calculator, input);
-            break;
-        case 5:
-            setAnything(calculator, input);
-            break;
-        case 6:
-            putNumber(calculator.calculator(), input);
-            break;
-        case 7:
-            platform.pasteboard = randomText(input);
-            calculator.clipboard().paste();
-            break;
-        case 8:
-            changeLocale(calculator, platform, input);
-            break;
-        case 9:
-        case 10:
-            calculator.keyDown(
-                {.type = NSKeyDown, .charactersIgnoringModifiers = {input.take<char16_t>()}});
-            break;
-        case 11:
-        case 12: {
-            const std::vector<Key> keys = calculator.views().allKeys();
-            keys[input.take<std::uint16_t>() % keys.size()].button->performClick();
-            break;
-        }
-        default:
-            calculator.doCommand(likelyCommand(input));
-    }
+    kActions.at(input.take<std::uint8_t>() % kActions.size())(calculator, platform, input);
 }
 
 void checkInvariants(DYXWindowController& calculator) {
