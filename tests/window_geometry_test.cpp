@@ -81,23 +81,6 @@ TEST(Screens, HaveAPlaceForAWindow) {
     EXPECT_EQ(leftRectOnScreen({}, {7, 7, 300, 233}), (NSRect{64, 64, 300, 233}));
 }
 
-TEST_F(Layouts, TakesASavedLayout) {
-    const struct {
-        bool keyPadHidden;
-        int mode;
-        bool statusLine;
-        NSRect frame;
-    } rows[]{{true, 1, true, {10, 373, 274, 127}},
-             {false, 0, true, {10, 250, 404, 250}},
-             {false, 77, false, {10, 207, 404, 293}}};  // a number that no layout has
-    for (const auto& row : rows) {
-        geometry.setupWindowAtLocation({10, 500}, {row.keyPadHidden, row.mode, row.statusLine});
-        EXPECT_EQ(window.frame(), row.frame);
-        EXPECT_EQ(views.keyPad.view()->isHidden(), row.keyPadHidden);
-        EXPECT_EQ(views.keyPad.view()->statusField()->isHidden(), row.keyPadHidden);
-    }
-}
-
 TEST_F(Layouts, OpensDrawersOnlyBesideTheKeyPad) {
     NSDrawer& constants = drawer(DrawerName::constants);
     for (const double height : {200.0, 200.5}) {
