@@ -59,6 +59,18 @@ class Window : public WindowTest {
             return each.accessibleName() == name && each.isVisible();
         });
     }
+    void drag(QWidget& widget, const QPoint& grip, const QPoint& way) {
+        const auto mouse = [&](QEvent::Type type, const QPoint& place, Qt::MouseButtons buttons) {
+            platform.mouseButtons = buttons;
+            QMouseEvent event(type, widget.mapFrom(&window, place), window.mapToGlobal(place),
+                              Qt::LeftButton, buttons, {});
+            QApplication::sendEvent(&widget, &event);
+        };
+        mouse(QEvent::MouseButtonPress, grip, Qt::LeftButton);
+        mouse(QEvent::MouseMove, grip + way / 2, Qt::LeftButton);
+        mouse(QEvent::MouseMove, grip + way, Qt::LeftButton);
+        mouse(QEvent::MouseButtonRelease, grip + way, Qt::NoButton);
+    }
 
     CalculatorWindow window{controller};
 };
@@ -89,16 +101,7 @@ TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
         const QPoint grip = shown.center() + QPoint(outward.x() * (shown.width() / 2 - 3),
                                                     outward.y() * (shown.height() / 2 - 3));
         const QPoint way = outward * (row.dragged - static_cast<int>(full));
-        const auto mouse = [&](QEvent::Type type, const QPoint& place, Qt::MouseButtons buttons) {
-            platform.mouseButtons = buttons;
-            QMouseEvent event(type, widget->mapFrom(&window, place), window.mapToGlobal(place),
-                              Qt::LeftButton, buttons, {});
-            QApplication::sendEvent(widget, &event);
-        };
-        mouse(QEvent::MouseButtonPress, grip, Qt::LeftButton);
-        mouse(QEvent::MouseMove, grip + way / 2, Qt::LeftButton);
-        mouse(QEvent::MouseMove, grip + way, Qt::LeftButton);
-        mouse(QEvent::MouseButtonRelease, grip + way, Qt::NoButton);
+        drag(*widget, grip, way);
         EXPECT_EQ(depth(record.contentSize()), row.rest);
         drawers.toggleDrawer(row.name);
         EXPECT_TRUE(QTest::qWaitFor([&] { return record.state() == NSDrawerClosedState; }));
