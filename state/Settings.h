@@ -44,8 +44,13 @@ struct Settings {
 
 // One of several values, as a menu offers it.
 struct Choice {
+    constexpr Choice() = default;
+    template <class Value>
+    constexpr Choice(std::u16string_view choiceTitle, Value choiceValue)
+        : title(choiceTitle), value(static_cast<std::int32_t>(choiceValue)) {}
+
     std::u16string_view title;
-    std::int32_t value;
+    std::int32_t value = 0;
 };
 
 // The menu that holds the item of a setting, in the order of the rows.
@@ -73,8 +78,11 @@ inline constexpr auto kModeChoices = [] {
     }
     return choices;
 }();
-inline constexpr auto kAngleChoices =
-    std::to_array<Choice>({{u"RAD", 0}, {u"DEG", 1}, {u"GRD", 2}, {u"HRS", 3}, {u"REV", 4}});
+inline constexpr auto kAngleChoices = std::to_array<Choice>({{u"RAD", AngleMode::rad},
+                                                             {u"DEG", AngleMode::deg},
+                                                             {u"GRD", AngleMode::grd},
+                                                             {u"HRS", AngleMode::hrs},
+                                                             {u"REV", AngleMode::rev}});
 inline constexpr auto kDigitChoices = [] {
     constexpr std::u16string_view kDigits = u"0123456789";
     std::array<Choice, kDigits.size()> choices{};
@@ -84,13 +92,20 @@ inline constexpr auto kDigitChoices = [] {
     return choices;
 }();
 inline constexpr auto kDecimalChoices =
-    std::to_array<Choice>({{u"As the System", 0}, {u"Point", 1}, {u"Comma", 2}});
+    std::to_array<Choice>({{u"As the System", DecimalMode::system},
+                           {u"Point", DecimalMode::point},
+                           {u"Comma", DecimalMode::comma}});
 inline constexpr auto kSeparatorChoices =
-    std::to_array<Choice>({{u"None", 0}, {u"By Mode", 1}, {u"Thin Space", 2}, {u"Blank", 3}});
+    std::to_array<Choice>({{u"None", SeparatorMode::none},
+                           {u"By Mode", SeparatorMode::byMode},
+                           {u"Thin Space", SeparatorMode::thinSpace},
+                           {u"Blank", SeparatorMode::blank}});
 inline constexpr auto kGroupChoices =
     std::to_array<Choice>({{u"As the System", 0}, {u"Twos", 2}, {u"Threes", 3}, {u"Fours", 4}});
 inline constexpr auto kFontChoices =
-    std::to_array<Choice>({{u"By Mode", 0}, {u"Proportional", 1}, {u"Monospaced", 2}});
+    std::to_array<Choice>({{u"By Mode", FontMode::byMode},
+                           {u"Proportional", FontMode::proportional},
+                           {u"Monospaced", FontMode::monospaced}});
 
 inline constexpr auto kSettings = std::to_array<SettingRow>({
     {.saved = saved<&Settings::inputDisplayMode>("inputDisplayMode"),

@@ -58,9 +58,10 @@ class DYXWindowController final : public NSResponder {
     // Brings all up to date that depends on settings, the layout or the system's numbers.
     void refresh();
 
-    // Puts back what was saved last.
+    // Saves the state, and puts back what was saved last.
     void saveDocument() { session_.saveData(); }
     void revertDocumentToSaved();
+    // Whether the file at the start said where the window stands.
     [[nodiscard]] bool hasSavedFrame() const { return session_.hasSavedFrame(); }
 
     // The program comes to the front: the system's way to write numbers may have changed.
