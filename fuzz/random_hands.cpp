@@ -29,7 +29,7 @@ constexpr std::array kModifierKeys{
 
 int anyKey(RandomUser& user) {
     return user.oneIn(2) ? QChar(0x20 + user.below(0x5F)).toUpper().unicode()
-                         : user.anyOf(kNamedKeys);
+                         : int{user.anyOf(kNamedKeys)};
 }
 
 void typeKey(RandomUser& user) {
