@@ -34,7 +34,7 @@ struct ToolkitOption {
 };
 
 // With one dash or two.
-constexpr std::array<ToolkitOption, 20> kToolkitOptions{{
+constexpr auto kToolkitOptions = std::to_array<ToolkitOption>({
     {"display", Value::nextArgument},
     {"dograb", Value::none},
     {"geometry", Value::nextArgument},
@@ -55,7 +55,7 @@ constexpr std::array<ToolkitOption, 20> kToolkitOptions{{
     {"title", Value::nextArgument},
     {"visual", Value::nextArgument},
     {"widgetcount", Value::none},
-}};
+});
 
 // How many arguments the toolkit will take for this one: none if it doesn't know it.
 std::size_t takenByToolkit(std::string_view argument) {

@@ -108,10 +108,9 @@ void clickKey(DYXWindowController& calculator, HeadlessPlatform& /*platform*/, F
 }
 
 // What the first byte of an action chooses; the second stands for `kTextCommand`.
-constexpr std::array<Action, 16> kActions{
-    runAnyCode, runText,   holdModifiers, chooseFromMenu, chooseFromMenu, setAnything,
-    putNumber,  paste,     changeLocale,  typeKey,        typeKey,        clickKey,
-    clickKey,   runLikely, runLikely,     runLikely};
+constexpr auto kActions = std::to_array<Action>(
+    {runAnyCode, runText, holdModifiers, chooseFromMenu, chooseFromMenu, setAnything, putNumber,
+     paste, changeLocale, typeKey, typeKey, clickKey, clickKey, runLikely, runLikely, runLikely});
 static_assert(kActions.at(kTextCommand) == runText);
 
 // Only the X line has all slots.

@@ -17,11 +17,11 @@ struct Version {
 };
 
 // Newest first.
-constexpr std::array<Version, 3> kVersions{{
+constexpr auto kVersions = std::to_array<Version>({
     {.number = StateFile::kLastVersion, .name = "com.Quondel.TalvexV1.2.data.plist"},
     {.number = 11, .name = "com.Quondel.Talvex.data.plist"},
     {.number = 10, .name = "com.Quondel.Talvex.data"},
-}};
+});
 
 }  // namespace
 

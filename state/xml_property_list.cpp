@@ -72,14 +72,14 @@ struct Kind {
     std::optional<PropertyValue> (*read)(const std::string& text);
 };
 
-constexpr std::array<Kind, 6> kKinds{{
+constexpr auto kKinds = std::to_array<Kind>({
     {"data", dataIn},
     {"integer", integerIn},
     {"real", realIn},
     {"string", [](const std::string& text) { return std::optional<PropertyValue>(text); }},
     {"true", [](const std::string& /*text*/) { return std::optional<PropertyValue>(true); }},
     {"false", [](const std::string& /*text*/) { return std::optional<PropertyValue>(false); }},
-}};
+});
 
 using Parser = std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)>;
 
