@@ -97,20 +97,6 @@ TEST(HelpPages, HaveLinksThatLeadSomewhere) {
     }
 }
 
-TEST(HelpPages, SayOfEveryFunctionForWhichNumbersItIs) {
-    std::set<std::u16string> noted;
-    for (const FunctionNote& note : functionNotes()) {
-        EXPECT_TRUE(noted.insert(stringFromCommand(note.command)).second);
-    }
-    const KeyCaps caps;
-    for (const KeyCaps::Cap& cap : caps.all()) {
-        const std::u16string text = stringFromCommand(cap.command);
-        const bool isFunction =
-            text.starts_with(u"unit") || text.starts_with(u"bina") || text.starts_with(u"null");
-        EXPECT_TRUE(!isFunction || noted.contains(text)) << htmlText(text);
-    }
-}
-
 class Help : public WindowTest {
   protected:
     [[nodiscard]] const std::u16string& url() const { return view.requestedURL(); }

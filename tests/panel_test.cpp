@@ -83,23 +83,6 @@ TEST_F(Panels, HaveAKeyForEveryCommand) {
     }
 }
 
-TEST_F(Panels, HaveKeysThatLieApartWithinTheirPanels) {
-    const std::vector<Key> keys = views.allKeys();
-    for (const Key& one : keys) {
-        SCOPED_TRACE(testing::PrintToString(one.button->accessibilityLabel()));
-        const NSRect& a = one.button->frame();
-        const NSRect within = one.button->superview()->bounds();
-        EXPECT_TRUE(a.x >= 0 && a.y >= 0 && a.x + a.width <= within.width &&
-                    a.y + a.height <= within.height);
-        for (const Key& other : keys) {
-            const NSRect& b = other.button->frame();
-            EXPECT_TRUE(&one == &other || one.button->superview() != other.button->superview() ||
-                        a.x + a.width < b.x || b.x + b.width < a.x || a.y + a.height < b.y ||
-                        b.y + b.height < a.y);
-        }
-    }
-}
-
 TEST_F(Panels, SayWhatAKeyDoesAndItsHotKey) {
     const std::pair<Text, Text> rows[]{{u"unitGSIN", u"[s] : sine "},
                                        {u"unitGCSC", u"cosecant "},
