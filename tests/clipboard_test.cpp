@@ -58,16 +58,6 @@ TEST_F(Pasteboard, CopiesWhatTheLineShowsInEveryMode) {
     }
 }
 
-TEST_F(Pasteboard, BringsNumbersBackInBothLocales) {
-    for (const int decimalMode : {1, 2}) {
-        choose<&Settings::decimalMode>(decimalMode);
-        for (const int mode : {0, 1, 2, 3}) {
-            choose<&Settings::inputDisplayMode>(mode);
-            EXPECT_EQ(pasted(copied(-12.75)), -12.75) << mode;
-        }
-    }
-}
-
 TEST_F(Pasteboard, CopiesALiveEntryAsItIsEchoed) {
     const std::pair<std::u16string_view, Text> rows[]{{u"\t", u"1e00"}, {u"1.5\t5", u"1.5e 05"}};
     for (const auto& [keys, text] : rows) {

@@ -195,12 +195,6 @@ class EndToEnd(unittest.TestCase):
             wait_until(SCREEN.bells, "the bell")
             self.expect_x("7")
 
-    def test_a_restart_brings_the_entry_back(self):
-        xdotool("key", "4", "2")
-        self.expect_x("42")
-        self.restart()
-        self.expect_x("42.0000")
-
     def test_the_first_start_shows_the_help_and_leaves_the_keys_with_the_calculator(self):
         self.end()
         shutil.rmtree(pathlib.Path(os.environ["HOME"], "Library"))

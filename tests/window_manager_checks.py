@@ -63,14 +63,6 @@ def check_start(desk):
     return faults
 
 
-def check_keys(desk):
-    with Calculator(desk) as calculator:
-        happens(calculator.has_keyboard)
-        xdotool("key", *SUM)
-        shown = number(calculator.end(), "reg[0]")
-    return [] if shown == 15 else [f"X is {shown}"]
-
-
 # By the keys of the saved state.
 LAYOUT_BUTTONS = {"showStatusLine": lambda width: width - 37,
                   "displayViewMode": lambda width: width - 18,

@@ -10,13 +10,13 @@ import sys
 import traceback
 
 from calculator_window import Desk
-from window_manager_checks import (check_drawers, check_keys, check_layouts, check_restarts,
-                                   check_start, check_switching)
+from window_manager_checks import (check_drawers, check_layouts, check_restarts, check_start,
+                                   check_switching)
 from window_manager_session import session
 from window_manager_table import ACCEPTED, MANAGERS
 
-COLUMNS = {"start": check_start, "keys": check_keys, "layouts": check_layouts,
-           "switching": check_switching, "restarts": check_restarts, "drawers": check_drawers}
+COLUMNS = {"start": check_start, "layouts": check_layouts, "switching": check_switching,
+           "restarts": check_restarts, "drawers": check_drawers}
 SECONDS_FOR_A_ROW = 300
 
 
