@@ -132,11 +132,6 @@ class EndToEnd(unittest.TestCase):
         self.calculator.click("clear X")
         self.expect_inverse(False)
 
-    def test_control_makes_functions_hyperbolic_while_it_is_held(self):
-        xdotool("key", "1", "ctrl+s")
-        self.expect_x("1.1752")
-        self.assertFalse(self.calculator.is_lit("hyperbolic form of the next function"))
-
     def test_a_refused_key_sounds_and_changes_nothing(self):
         xdotool("key", "7")
         self.expect_x("7")

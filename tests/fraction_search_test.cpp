@@ -63,13 +63,5 @@ TEST(FractionSearch, FindsWhatTryingAllFinds) {
     expectSameAsTryingAll(99999, more == nullptr ? 1'000 : std::atoi(more), 3);
 }
 
-TEST(FractionSearch, CallsEqualAndNeighbouringDoublesClose) {
-    EXPECT_TRUE(areClose(0.1 + 0.2, 0.3));
-    EXPECT_TRUE(areClose(0.3, 0.1 + 0.2));
-    EXPECT_FALSE(areClose(0.3, std::nextafter(0.1 + 0.2, 1.0)));
-    EXPECT_TRUE(areClose(0.0, 5e-324));
-    EXPECT_FALSE(areClose(0.0, 1e-323));
-}
-
 }  // namespace
 }  // namespace talvex

@@ -28,16 +28,15 @@ TEST(HotKeys, LeadFromCharacterAndStateToACommand) {
         char16_t key;
         HotKeyState state;
         Text command;
-    } rows[]{{u'a', kNothing, u"unitABS "},   {u'A', kHex, u"dataN00A"},
-             {u'A', kShift, u"unitABS "},     {u'e', kRecall, u"conse   "},
+    } rows[]{{u'A', kHex, u"dataN00A"},       {u'A', kShift, u"unitABS "},
              {u'e', kHexRecall, u"dataN00E"}, {u'p', kNothing, u"nothing"},
              {u'3', kNothing, u"dataN003"},   {u'3', kRecall, u"memoM003"},
-             {u'3', kStore, u"memoM003"},     {u'!', kRecall, u"memoM011"},
-             {u'!', kNothing, u"nothing"},    {u'+', kStore, u"memoSTO+"},
-             {u'+', kRecall, u"bina+   "},    {u'*', kStore, u"memoM018"},
-             {u'\x1B', kStore, u"memoSTOC"},  {u'z', kNothing, u"unitZETA"},
-             {u'z', kShift, u"nothing"},      {u'z', kStore, u"nothing"},
-             {u'S', kShift, u"unitGSIN"},     {u'\0', kNothing, u"nothing"}};
+             {u'3', kStore, u"memoM003"},     {u'!', kNothing, u"nothing"},
+             {u'+', kStore, u"memoSTO+"},     {u'+', kRecall, u"bina+   "},
+             {u'*', kStore, u"memoM018"},     {u'\x1B', kStore, u"memoSTOC"},
+             {u'z', kNothing, u"unitZETA"},   {u'z', kShift, u"nothing"},
+             {u'z', kStore, u"nothing"},      {u'S', kShift, u"unitGSIN"},
+             {u'\0', kNothing, u"nothing"}};
     for (const auto& row : rows) {
         EXPECT_EQ(commandOf(HotKeys(), row.key, row.state), commandFromString(row.command))
             << static_cast<int>(row.key) << testing::PrintToString(row.command);

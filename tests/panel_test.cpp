@@ -94,6 +94,7 @@ TEST_F(Panels, SayWhatAKeyDoesAndItsHotKey) {
         leave(padKey(command));
         EXPECT_EQ(padText(), u"");
     }
+    EXPECT_EQ(padKey(u"unitSQR ").attributedTitle().string, u"x2");
     NSButton& button = padKey(u"dataE-03");
     choose<&Settings::inputDisplayMode>(mode::HEX);
     enter(button);

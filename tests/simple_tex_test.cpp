@@ -3,10 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
-
-#include "platform/HeadlessPlatform.h"
-#include "ui/DYXButton.h"
 
 namespace talvex {
 namespace {
@@ -46,11 +42,6 @@ TEST(SimpleTex, MarksTheTitlesOfKeys) {
         EXPECT_EQ(title.string, row.text);
         EXPECT_EQ(placesOf(title, body), row.places) << testing::PrintToString(row.source);
     }
-    HeadlessPlatform platform;
-    DYXButton key({}, u"e^x", body, platform);
-    EXPECT_EQ(key.attributedTitle(), simpleTexTitle(u"e^x", body));
-    key.mouseDown();
-    EXPECT_EQ(platform.log, std::vector<Text>{u"DYXButton: mouseDown : e^x : 1"});
 }
 
 TEST(SimpleTex, MarksStatusTexts) {
