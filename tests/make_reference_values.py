@@ -68,21 +68,15 @@ UNARY = [
 CIRCULAR = ("SIN ", "COS ", "TAN ", "CSC ", "SEC ", "COT ")
 ARCS = {"ASIN": UNIT, "ACOS": UNIT, "ATAN": REAL, "ACSC": BEYOND, "ASEC": BEYOND,
         "ACOT": spread(-2, 2)}
-
-
-def pairs(first, second):
-    return list(zip(first, second))
-
-
 COUNTS = [(RANDOM.randint(1, n), n) for n in RANDOM.choices(range(21, 500), k=14)]
 # Orders, then arguments.
-LOW = pairs(spread(-3, 3, 12), spread(0.05, 1.99, 12))
-HIGH = pairs(spread(0, 40, 12), spread(2, 60, 12)) + [(0.0, 10.0), (2.5, 3.0)]
+LOW = [*zip(spread(-3, 3, 12), spread(0.05, 1.99, 12))]
+HIGH = [*zip(spread(0, 40, 12), spread(2, 60, 12)), (0.0, 10.0), (2.5, 3.0)]
 BINARY = [
-    ("x^y ", 1, pairs(POSITIVE, spread(-1.5, 1.5, 13)), lambda x, y: x ** y),
-    ("y~x ", 3, pairs(magnitudes(0.5, 5), magnitudes(1, 200)), lambda x, y: m.log(y) / m.log(x)),
-    ("HYPT", 1, pairs(REAL, REAL[::-1]), m.hypot),
-    ("MEAN", 1, pairs(magnitudes(-100, 100), magnitudes(-100, 100)), lambda x, y: m.sqrt(x * y)),
+    ("x^y ", 1, zip(POSITIVE, spread(-1.5, 1.5, 13)), lambda x, y: x ** y),
+    ("y~x ", 3, zip(magnitudes(0.5, 5), magnitudes(1, 200)), lambda x, y: m.log(y) / m.log(x)),
+    ("HYPT", 1, zip(REAL, REAL[::-1]), m.hypot),
+    ("MEAN", 1, zip(magnitudes(-100, 100), magnitudes(-100, 100)), lambda x, y: m.sqrt(x * y)),
     ("CHOS", 16, COUNTS, lambda x, y: m.binomial(y, x)),
     ("Jx  ", 2 ** 24, LOW, m.besselj),
     ("Yx  ", 2 ** 24, LOW, m.bessely),

@@ -121,15 +121,11 @@ TEST_F(Panels, SayWhatARegisterHoldsNow) {
     }
 }
 
-TEST_F(Panels, KeepTheTextOfTheNextKeyWhenTheLastOneIsLeftLate) {
+TEST_F(Panels, KeepTheTextOfTheLastKeyAsLongAsItIsThere) {
     enter(padKey(u"unitGSIN"));
     enter(padKey(u"unitGCSC"));
     leave(padKey(u"unitGSIN"));
     EXPECT_EQ(padText(), u"cosecant ");
-}
-
-TEST_F(Panels, SayNothingOfAKeyThatHasGone) {
-    enter(padKey(u"unitGSIN"));
     geometry.takeShowKeyPadFrom();
     geometry.takeShowKeyPadFrom();
     EXPECT_EQ(padText(), u"");
