@@ -1,7 +1,6 @@
 // X on the pasteboard and back, and the menu that leads there.
 
 #include <array>
-#include <cmath>
 #include <functional>
 #include <set>
 #include <string>
