@@ -2,12 +2,14 @@
 // window at rest does. Usage: window_use SECONDS [SEED]. Needs no screen; QT_QPA_PLATFORM=xcb makes
 // it use that of DISPLAY.
 
+#include <unistd.h>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QThread>
 #include <algorithm>
 #include <array>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -114,6 +116,7 @@ void printMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/,
 
 // What libdbus has for its connection to the session it keeps to the end of the process.
 extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1.so"; }
+extern "C" const char* __asan_default_options() { return "handle_abort=1"; }
 
 int main(int argc, char** argv) {
     using namespace talvex;
@@ -126,6 +129,10 @@ int main(int argc, char** argv) {
         argc > 2 ? std::strtoull(argv[2], nullptr, 10) : std::random_device()();
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     std::printf("seed %llu\n", static_cast<unsigned long long>(seed));
+    // Whatever waits for ever ends here, and its stack is printed.
+    std::signal(SIGALRM, [](int /*signal*/) { std::abort(); });
+    constexpr long kMostForASecond = 5;
+    alarm(static_cast<unsigned>(kMostForASecond * seconds));
     const PrivateHome home;
     qputenv("HOME", home.folder().c_str());
     qputenv("XDG_RUNTIME_DIR", home.folder().c_str());
