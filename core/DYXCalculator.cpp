@@ -143,7 +143,10 @@ void DYXCalculator::syncDisplays() {
          {yDisplay_.get(), zDisplay_.get(), tDisplay_.get(), cDisplay_.get()}) {
         line->syncToDisplay(*xDisplay_);
     }
-    cDisplay_->setGroupingSeparator(u"");
+    LineSettings ungrouped = cDisplay_->settings();
+    ungrouped.integerGroupingSeparator.clear();
+    ungrouped.decimalGroupingSeparator.clear();
+    cDisplay_->setSettings(std::move(ungrouped));
 }
 
 CalculatorState DYXCalculator::state() const {

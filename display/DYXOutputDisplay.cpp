@@ -110,19 +110,6 @@ std::u16string DYXOutputDisplay::worded(std::u16string_view word) const {
     return wording_ ? wording_(word) : std::u16string(word);
 }
 
-void DYXOutputDisplay::setIntegerGroupingSeparator(std::u16string separator) {
-    settings_.integerGroupingSeparator = std::move(separator);
-}
-
-void DYXOutputDisplay::setDecimalGroupingSeparator(std::u16string separator) {
-    settings_.decimalGroupingSeparator = std::move(separator);
-}
-
-void DYXOutputDisplay::setGroupingSeparator(const std::u16string& separator) {
-    setIntegerGroupingSeparator(separator);
-    setDecimalGroupingSeparator(separator);
-}
-
 void DYXOutputDisplay::setLabelString(std::u16string label) {
     write(fields_.label, std::move(label));
 }

@@ -38,23 +38,13 @@ class DYXOutputDisplay {
 
     [[nodiscard]] const LineSettings& settings() const { return settings_; }
     void setSettings(LineSettings settings) { settings_ = std::move(settings); }
-    // The same, one by one.
     [[nodiscard]] std::uint32_t digits() const { return settings_.digits; }
-    void setDigits(std::uint32_t digits) { settings_.digits = digits; }
     [[nodiscard]] std::int32_t outputMode() const { return settings_.outputMode; }
-    void setOutputMode(std::int32_t mode) { settings_.outputMode = mode; }
     [[nodiscard]] bool reduceCarpentryFractions() const {
         return settings_.reduceCarpentryFractions;
     }
-    void setReduceCarpentryFractions(bool reduce) { settings_.reduceCarpentryFractions = reduce; }
     [[nodiscard]] bool displayIrrationals() const { return settings_.displayIrrationals; }
-    void setDisplayIrrationals(bool display) { settings_.displayIrrationals = display; }
     [[nodiscard]] char16_t decimalSeparator() const { return settings_.decimalSeparator; }
-    void setDecimalSeparator(char16_t separator) { settings_.decimalSeparator = separator; }
-    void setGroupingDigits(std::uint32_t digits) { settings_.groupingDigits = digits; }
-    void setIntegerGroupingSeparator(std::u16string separator);
-    void setDecimalGroupingSeparator(std::u16string separator);
-    void setGroupingSeparator(const std::u16string& separator);
 
     [[nodiscard]] const TextSlot& mantissaField() const { return fields_.mantissa; }
     [[nodiscard]] const TextSlot& mantissaSignField() const { return fields_.mantissaSign; }

@@ -27,9 +27,7 @@ class DYXInputDisplay final : public DYXOutputDisplay {
     [[nodiscard]] const InputSettings& inputSettings() const { return input_; }
     // Doesn't touch the entry: its characters are read by the rules of the new mode from then on.
     void setInputSettings(const InputSettings& settings) { input_ = settings; }
-    // The same, one by one.
     [[nodiscard]] std::int32_t inputMode() const { return input_.inputMode; }
-    void setInputMode(std::int32_t mode) { input_.inputMode = mode; }
     [[nodiscard]] bool unlockInputAndOutputModes() const {
         return input_.unlockInputAndOutputModes;
     }

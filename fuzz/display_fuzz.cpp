@@ -148,15 +148,17 @@ void run(FuzzInput& input) {
         return std::u16string(kSeparators.at(input.take<std::uint8_t>() % kSeparators.size()));
     };
     DYXOutputDisplay line(oldFields());
-    line.setOutputMode(input.take<std::uint8_t>() % mode::count);
+    LineSettings settings;
+    settings.outputMode = input.take<std::uint8_t>() % mode::count;
     const auto digits = input.take<std::uint32_t>();
-    line.setDigits(digits % 4 == 0 ? digits : digits / 4 % 20);
-    line.setDecimalSeparator(input.take<std::uint8_t>() % 2 == 0 ? u'.' : u',');
-    line.setIntegerGroupingSeparator(separator());
-    line.setDecimalGroupingSeparator(separator());
-    line.setGroupingDigits(input.take<std::uint8_t>() % 6);
-    line.setReduceCarpentryFractions(input.take<std::uint8_t>() % 2 == 0);
-    line.setDisplayIrrationals(input.take<std::uint8_t>() % 2 == 0);
+    settings.digits = digits % 4 == 0 ? digits : digits / 4 % 20;
+    settings.decimalSeparator = input.take<std::uint8_t>() % 2 == 0 ? u'.' : u',';
+    settings.integerGroupingSeparator = separator();
+    settings.decimalGroupingSeparator = separator();
+    settings.groupingDigits = input.take<std::uint8_t>() % 6;
+    settings.reduceCarpentryFractions = input.take<std::uint8_t>() % 2 == 0;
+    settings.displayIrrationals = input.take<std::uint8_t>() % 2 == 0;
+    line.setSettings(std::move(settings));
     const double number = input.takeNumber();
     line.setOutputTo(number);
     for (const TextSlot& slot :

@@ -1,4 +1,4 @@
-// Makes the pages of the help from their templates. Usage: help_pages TEMPLATES PAGES
+// Makes the pages of the help from their templates. Usage: make_help_pages TEMPLATES PAGES
 
 #include <cstdio>
 #include <filesystem>
@@ -30,7 +30,7 @@ bool makePage(talvex::PageMaker& maker, const fs::path& from, const fs::path& to
 
 int main(int argc, char** argv) {
     if (argc != 3) {
-        std::fputs("Usage: help_pages TEMPLATES PAGES\n", stderr);
+        std::fputs("Usage: make_help_pages TEMPLATES PAGES\n", stderr);
         return 2;
     }
     talvex::PageMaker maker;

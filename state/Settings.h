@@ -181,7 +181,7 @@ static_assert(hasARowForEachMember<Settings>(kSettings,
 
 // The row of a setting, by its member.
 template <auto Member>
-constexpr const SettingRow& settingRow() {
+consteval const SettingRow& settingRow() {
     return *std::find_if(kSettings.begin(), kSettings.end(),
                          [](const SettingRow& row) { return row.saved.get == &valueOf<Member>; });
 }

@@ -69,11 +69,12 @@ TEST(DisplayFormat, FillsEverySlot) {
     DYXOutputDisplay line(plainFields());
     for (const auto& [settings, rows] : kFormatTables) {
         const std::int32_t mode = settings.outputMode;
-        line.setSettings(settings);
         for (const Row& row : rows) {
             SCOPED_TRACE(testing::Message() << row.number << " at " << row.digits << " digits");
             Shown shown = shownIn(mode, row);
-            line.setDigits(row.digits);
+            LineSettings precise = settings;
+            precise.digits = row.digits;
+            line.setSettings(precise);
             line.setOutputTo(row.number);
             EXPECT_EQ(shownBy(line), shown) << "mode " << mode;
             const bool warns = isIntegerMode(mode) && !shown.status.empty();
@@ -90,13 +91,14 @@ TEST(DisplayFormat, FillsEverySlot) {
 
 TEST(DisplayFormat, GroupsBySizeButScientificAlwaysByThree) {
     DYXOutputDisplay line(plainFields());
-    line.setGroupingSeparator(u"_");
     const std::pair<std::uint32_t, Text> rows[]{{0, u"12345.6789"},
                                                 {1, u"1_2_3_4_5.6_7_8_9"},
                                                 {4, u"1_2345.6789"},
                                                 {4'000'000'000U, u"12345.6789"}};
     for (const auto& [size, text] : rows) {
-        line.setGroupingDigits(size);
+        line.setSettings({.groupingDigits = size,
+                          .integerGroupingSeparator = u"_",
+                          .decimalGroupingSeparator = u"_"});
         line.setFixedTo(12345.6789);
         EXPECT_EQ(shownBy(line), (Shown{text})) << size;
         line.setScientificTo(12345.6789);
@@ -108,9 +110,9 @@ TEST(DisplayFormat, ShowsErrorsAndInfinitiesAsWordsInAnyMode) {
     DYXOutputDisplay line(plainFields());
     for (std::int32_t number = -1; number <= mode::count; ++number) {
         SCOPED_TRACE(number);
-        line.setOutputMode(mode::HEX);
+        line.setSettings({.outputMode = mode::HEX});
         line.setOutputTo(-1e-20);
-        line.setOutputMode(number);
+        line.setSettings({.outputMode = number});
         line.setOutputTo(-DYXnan('L'));
         EXPECT_EQ(shownBy(line), (Shown{u"log error"}));
         EXPECT_EQ(line.mantissaField()->textColor(), NSColor::black());

@@ -84,8 +84,8 @@ TEST(EntryEcho, ShowsWhatWasTyped) {
             SCOPED_TRACE(testing::Message() << "mode " << mode.number << ": " << row.keys);
             KeyScript script;
             script.inMode(mode.number);
-            script.calculator.xDisplay().setDigits(mode.digits);
-            script.calculator.xDisplay().setDecimalSeparator(mode.separator);
+            script.calculator.xDisplay().setSettings(
+                {.digits = mode.digits, .decimalSeparator = mode.separator});
             script.press(row.keys);
             EXPECT_EQ(script.line(), row.line);
             EXPECT_EQ(script.beeps(), row.beeps);

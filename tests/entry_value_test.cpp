@@ -68,7 +68,7 @@ TEST(EntryValue, IsTheNumberThatWasTyped) {
         for (const Row& row : rows) {
             KeyScript script;
             script.inMode(mode);
-            script.calculator.xDisplay().setDigits(digits);
+            script.calculator.xDisplay().setSettings({.digits = digits});
             script.press(row.keys);
             EXPECT_TRUE(isSame(script.entry().doubleValue(), row.value))
                 << "mode " << mode << ": " << row.keys;

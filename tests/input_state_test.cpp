@@ -110,7 +110,7 @@ TEST(DataEntry, ChangeOfSignFlipsTheBitOfAnyNumber) {
 TEST(DataEntry, ModeMonetaryRoundsXAfterEveryCommand) {
     KeyScript script;
     script.inMode(mode::MON);
-    script.calculator.xDisplay().setDigits(2);
+    script.calculator.xDisplay().setSettings({.digits = 2});
     script.setStack(1.005, 2.676, 3, 4);
     script.press("unitABCD");
     EXPECT_EQ(script.x(), 1.0);

@@ -17,7 +17,9 @@ class KeyScript {
     void press(std::string_view keys);
     // A command as a button carries it, for codes that have no name here: "unitSQR ".
     void run(std::string_view command);
-    void inMode(std::int32_t inputMode) { calculator.xDisplay().setInputMode(inputMode); }
+    void inMode(std::int32_t inputMode) {
+        calculator.xDisplay().setInputSettings({.inputMode = inputMode});
+    }
     void setStack(double x, double y, double z, double t) {
         edit(calculator, [&](CalculatorState& state) { state.stack.reg = {x, y, z, t}; });
     }

@@ -29,8 +29,6 @@ NSRect HelpController::firstFrame() const {
     return leftRectOnScreen(platform_.visibleFramesOfScreens(), views_.window.frame());
 }
 
-void HelpController::showFirstPage() { showPlace(views_.matrix->cellAt(0, 0).title); }
-
 void HelpController::showSelectedPage() {
     showPlace(views_.matrix->cellAt(std::max(0, views_.matrix->selectedRow()), 0).title);
 }

@@ -15,8 +15,7 @@ class HelpController {
     // Both have to outlive it.
     HelpController(HelpViews& views, Platform& platform);
 
-    // Shows the first page, or the one whose cell is selected.
-    void showFirstPage();
+    // Shows the page whose cell is selected.
     void showSelectedPage();
     // Shows the window with its selected page loaded afresh, or hides it.
     void takeToggleHelpWindowFrom();
@@ -25,7 +24,6 @@ class HelpController {
     void showHelpFor(const Comand& command);
 
     // Steps above the normal size of the text; they count on beyond the range of the view.
-    [[nodiscard]] std::int32_t textSize() const { return textSize_; }
     void setHelpViewTextToSize(std::int32_t size);
     void takeMakeHelpTextLargerFrom();
     void takeMakeHelpTextSmallerFrom();
