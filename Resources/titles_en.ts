@@ -44,8 +44,24 @@
             <translation>10 to the power X</translation>
         </message>
         <message>
+            <source>100 %</source>
+            <translation>100 %</translation>
+        </message>
+        <message>
             <source>10^x</source>
             <translation>10^x</translation>
+        </message>
+        <message>
+            <source>125 %</source>
+            <translation>125 %</translation>
+        </message>
+        <message>
+            <source>150 %</source>
+            <translation>150 %</translation>
+        </message>
+        <message>
+            <source>175 %</source>
+            <translation>175 %</translation>
         </message>
         <message>
             <source>2</source>
@@ -68,12 +84,24 @@
             <translation>2 to the power X</translation>
         </message>
         <message>
+            <source>200 %</source>
+            <translation>200 %</translation>
+        </message>
+        <message>
+            <source>250 %</source>
+            <translation>250 %</translation>
+        </message>
+        <message>
             <source>2^x</source>
             <translation>2^x</translation>
         </message>
         <message>
             <source>3</source>
             <translation>3</translation>
+        </message>
+        <message>
+            <source>300 %</source>
+            <translation>300 %</translation>
         </message>
         <message>
             <source>4</source>
@@ -94,6 +122,10 @@
         <message>
             <source>7</source>
             <translation>7</translation>
+        </message>
+        <message>
+            <source>75 %</source>
+            <translation>75 %</translation>
         </message>
         <message>
             <source>8</source>
@@ -650,6 +682,10 @@
         <message>
             <source>Show YZT Registers</source>
             <translation>Show YZT Registers</translation>
+        </message>
+        <message>
+            <source>Size</source>
+            <translation>Size</translation>
         </message>
         <message>
             <source>Smaller Text</source>

@@ -63,8 +63,9 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     talvex::QtPlatform platform;
     talvex::DYXWindowController controller(platform);
-    talvex::HelpPresenter help(controller);
-    talvex::CalculatorWindow window(controller);
+    talvex::Scale scale;
+    talvex::HelpPresenter help(controller, scale);
+    talvex::CalculatorWindow window(controller, scale);
     const talvex::TerminationSignals terminationSignals;
     connectApplication(application, controller, window);
     window.show();

@@ -103,7 +103,8 @@ int main(int argc, char** argv) {
     HeadlessPlatform platform;
     DYXWindowController controller(platform);
     controller.geometry().takeShowYZTRegistersFrom();
-    CalculatorWindow window(controller);
+    Scale scale;
+    CalculatorWindow window(controller, scale);
     window.show();
     run(300);
     PaintCounter counter;

@@ -30,8 +30,9 @@ class WindowSession {
 
     QtPlatform platform;
     DYXWindowController controller{platform};
-    HelpPresenter help{controller};
-    CalculatorWindow window{controller};
+    Scale scale;
+    HelpPresenter help{controller, scale};
+    CalculatorWindow window{controller, scale};
 };
 
 }  // namespace talvex

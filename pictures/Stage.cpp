@@ -9,9 +9,10 @@
 
 namespace talvex {
 
-Stage::Stage() : controller_(platform_) {
+Stage::Stage(std::int32_t size) : controller_(platform_) {
+    controller_.choose(settingRow<&Settings::windowSize>(), size);
     controller_.choose(settingRow<&Settings::animateWindow>(), 0);
-    window_ = std::make_unique<CalculatorWindow>(controller_);
+    window_ = std::make_unique<CalculatorWindow>(controller_, scale_);
     window_->show();
     settle();
 }

@@ -14,7 +14,8 @@ namespace talvex {
 // A calculator with a window of its own, for one picture.
 class Stage {
   public:
-    Stage();
+    // So large, in percent.
+    explicit Stage(std::int32_t size);
 
     [[nodiscard]] DYXWindowController& controller() { return controller_; }
     // Keys as they are typed on the keyboard, one character each; "\r" is ENTER.
@@ -28,6 +29,7 @@ class Stage {
 
     HeadlessPlatform platform_;
     DYXWindowController controller_;
+    Scale scale_;
     std::unique_ptr<CalculatorWindow> window_;
 };
 

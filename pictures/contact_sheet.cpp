@@ -63,8 +63,8 @@ QImage sheetOf(const std::vector<Picture>& pictures, int width) {
 // A stack with something on every line.
 void fillStack(Stage& stage) { stage.type(u"1234.5678\r2q\r3r\r1.5"); }
 
-Picture pictureOf(const WindowLayout& layout) {
-    Stage stage;
+Picture pictureOf(const WindowLayout& layout, std::int32_t size) {
+    Stage stage(size);
     fillStack(stage);
     DYXWindowController& controller = stage.controller();
     if (layout.displayViewMode == 1) {
@@ -83,14 +83,14 @@ Picture pictureOf(const WindowLayout& layout) {
             stage.picture()};
 }
 
-std::vector<Picture> layouts() {
+std::vector<Picture> layouts(std::int32_t size) {
     std::vector<Picture> pictures;
     for (const WindowLayout& layout :
          {WindowLayout{}, WindowLayout{.showStatusLine = true}, WindowLayout{.displayViewMode = 1},
           WindowLayout{.displayViewMode = 1, .showStatusLine = true},
           WindowLayout{.keyPadHidden = true},
           WindowLayout{.keyPadHidden = true, .displayViewMode = 1}}) {
-        pictures.push_back(pictureOf(layout));
+        pictures.push_back(pictureOf(layout, size));
     }
     return pictures;
 }
@@ -105,15 +105,15 @@ constexpr auto kDrawers = std::to_array<OpenDrawer>({{DrawerName::memory, "memor
                                                      {DrawerName::conversion, "conversions"},
                                                      {DrawerName::functions, "functions"}});
 
-std::vector<Picture> drawers() {
+std::vector<Picture> drawers(std::int32_t size) {
     std::vector<Picture> pictures;
     for (const OpenDrawer& drawer : kDrawers) {
-        Stage stage;
+        Stage stage(size);
         fillStack(stage);
         stage.open(drawer.name);
         pictures.push_back({QString::fromLatin1(drawer.title), stage.picture()});
     }
-    Stage all;
+    Stage all(size);
     fillStack(all);
     all.controller().geometry().takeShowYZTRegistersFrom();
     all.controller().geometry().takeShowStatusLineFrom();
@@ -121,7 +121,7 @@ std::vector<Picture> drawers() {
         all.open(drawer.name);
     }
     pictures.push_back({QStringLiteral("all drawers"), all.picture()});
-    Stage pages;
+    Stage pages(size);
     pages.open(DrawerName::conversion);
     for (int page = 0;
          page < pages.controller().views().conversionPanel.tabView->numberOfTabViewItems();
@@ -132,10 +132,10 @@ std::vector<Picture> drawers() {
     return pictures;
 }
 
-std::vector<Picture> modes() {
+std::vector<Picture> modes(std::int32_t size) {
     std::vector<Picture> pictures;
     for (std::int32_t mode = 0; mode < mode::count; ++mode) {
-        Stage stage;
+        Stage stage(size);
         stage.type(u"10r\r1.5\r3\r1234.5678\r");
         stage.controller().geometry().takeShowYZTRegistersFrom();
         stage.controller().geometry().takeShowKeyPadFrom();
@@ -146,16 +146,18 @@ std::vector<Picture> modes() {
 }
 
 // Each page from its top, as long as it is or nearly so.
-std::vector<Picture> helpPictures() {
-    constexpr QSize kSize(760, 1400);
+std::vector<Picture> helpPictures(std::int32_t size) {
+    constexpr NSSize kSize{760.0, 1400.0};
+    Scale scale;
+    scale.setFactor(size / 100.0);
     HeadlessPlatform platform;
     platform.resources = QDir(QApplication::applicationDirPath())
                              .filePath(QStringLiteral("../Resources"))
                              .toStdString();
     DYXWindowController controller(platform);
     NSMatrix& matrix = *controller.views().help.matrix;
-    HelpWidget window(controller);
-    window.resize(kSize);
+    HelpWidget window(controller, scale);
+    window.resize(scale.pixels(kSize));
     std::vector<Picture> pictures;
     for (int row = 0; row < matrix.numberOfRows(); ++row) {
         matrix.performClickAt(row, 0);
@@ -191,11 +193,10 @@ QPalette paletteOf(bool dark) {
 
 int main(int argc, char** argv) {
     using namespace talvex;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() != 3) {
-        std::fputs("Usage: contact_sheet FOLDER light|dark\n", stderr);
+    if (arguments.size() != 4) {
+        std::fputs("Usage: contact_sheet FOLDER light|dark PERCENT\n", stderr);
         return 2;
     }
     QApplication::setPalette(paletteOf(arguments[2] == QLatin1String("dark")));
@@ -203,14 +204,16 @@ int main(int argc, char** argv) {
     if (!folder.mkpath(QStringLiteral("."))) {
         return 1;
     }
-    constexpr int kWidth = 1300;
-    const std::vector<Picture> views = layouts();
-    const std::vector<Picture> opened = drawers();
-    const bool isWritten = save(folder.filePath("window.png"), views[2].image) &&
-                           save(folder.filePath("all_drawers.png"), opened[4].image) &&
-                           save(folder.filePath("layouts.png"), sheetOf(views, kWidth)) &&
-                           save(folder.filePath("drawers.png"), sheetOf(opened, 2 * kWidth)) &&
-                           save(folder.filePath("modes.png"), sheetOf(modes(), kWidth)) &&
-                           save(folder.filePath("help.png"), sheetOf(helpPictures(), 3 * kWidth));
+    const std::int32_t size = arguments[3].toInt();
+    const int width = 13 * size;
+    const std::vector<Picture> views = layouts(size);
+    const std::vector<Picture> opened = drawers(size);
+    const bool isWritten =
+        save(folder.filePath("window.png"), views[2].image) &&
+        save(folder.filePath("all_drawers.png"), opened[4].image) &&
+        save(folder.filePath("layouts.png"), sheetOf(views, width)) &&
+        save(folder.filePath("drawers.png"), sheetOf(opened, 2 * width)) &&
+        save(folder.filePath("modes.png"), sheetOf(modes(size), width)) &&
+        save(folder.filePath("help.png"), sheetOf(helpPictures(size), 3 * width));
     return isWritten ? 0 : 1;
 }

@@ -60,8 +60,9 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     HeadlessPlatform platform;
     DYXWindowController controller(platform);
-    const CalculatorWindow window(controller);
-    const HelpWidget help(controller);
+    Scale scale;
+    const CalculatorWindow window(controller, scale);
+    const HelpWidget help(controller, scale);
     showWords(controller);
     pasteInVain(controller, platform);
     for (const int mode : {8, 0}) {  // the letter keys have titles of their own in HEX

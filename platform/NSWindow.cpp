@@ -44,6 +44,13 @@ void NSWindow::setFrameTopLeftPoint(const NSPoint& point) {
     setFrame(frame);
 }
 
+void NSWindow::setSize(std::int32_t percent) {
+    if (percent != size_) {
+        size_ = percent;
+        notify();
+    }
+}
+
 void NSWindow::makeKeyAndOrderFront() {
     visible_ = true;
     notify();

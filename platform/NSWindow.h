@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -54,6 +55,11 @@ class NSWindow {
     void setFrameDisplayAnimate(const NSRect& frame, bool animate);
     void setFrameTopLeftPoint(const NSPoint& point);
 
+    // How large the window is to be on the screen, in percent; 0 as it goes with the desktop. The
+    // frame is in points whatever that is.
+    [[nodiscard]] std::int32_t size() const { return size_; }
+    void setSize(std::int32_t percent);
+
     // All of the window, title bar included.
     [[nodiscard]] NSView& frameView() { return *frameView_; }
     [[nodiscard]] NSView* contentView() const { return contentView_.get(); }
@@ -80,6 +86,7 @@ class NSWindow {
     std::u16string title_;
     bool visible_ = false;
     NSRect frame_;
+    std::int32_t size_ = 0;
     std::shared_ptr<NSView> frameView_ = std::make_shared<NSView>();
     std::shared_ptr<NSView> contentView_;
     NSResponder* delegate_ = nullptr;

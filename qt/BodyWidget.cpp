@@ -13,26 +13,22 @@ namespace talvex {
 namespace {
 
 constexpr int kMotionMilliseconds = 160;
-constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
-
-QSize sizeOf(const NSRect& frame) {
-    return {static_cast<int>(frame.width), static_cast<int>(frame.height)};
-}
 
 }  // namespace
 
-BodyWidget::BodyWidget(DYXWindowController& controller, Host host, QWidget* parent)
+BodyWidget::BodyWidget(DYXWindowController& controller, Scale& scale, Host host, QWidget* parent)
     : QWidget(parent),
       controller_(controller),
+      scale_(scale),
       host_(std::move(host)),
-      titleBar_(new TitleBar(controller, this)),
+      titleBar_(new TitleBar(controller, scale, this)),
       content_(new QWidget(this)),
       stillPicture_(new QLabel(this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    auto* const display = new DisplayWidget(controller, content_);
+    auto* const display = new DisplayWidget(controller, scale, content_);
     KeyPad& keyPad = controller.views().keyPad;
-    auto* const keys = new PanelWidget(*keyPad.view(), keyPad.keys(), content_);
-    new StatusFieldWidget(*keyPad.view()->statusField(), content_,
+    auto* const keys = new PanelWidget(*keyPad.view(), keyPad.keys(), scale, content_);
+    new StatusFieldWidget(*keyPad.view()->statusField(), scale, content_,
                           controller.views().contentView.get());
     for (QWidget* const area :
          {static_cast<QWidget*>(keys), static_cast<QWidget*>(display), titleBar_}) {
@@ -51,8 +47,18 @@ BodyWidget::BodyWidget(DYXWindowController& controller, Host host, QWidget* pare
     followRecord();
 }
 
-QRect BodyWidget::restingPlace() const {
-    return {pos(), sizeOf(controller_.views().window.frame())};
+QRect BodyWidget::restingPlace() const { return {pos(), sizeOfRecord()}; }
+
+QSize BodyWidget::sizeOfRecord() const {
+    const NSRect& frame = controller_.views().window.frame();
+    return scale_.pixels(NSSize{frame.width, frame.height});
+}
+
+void BodyWidget::takeSize() {
+    picture_ = {};
+    motion_.stop();
+    followRecord();
+    content_->resize(size() - QSize(0, bar()));
 }
 
 void BodyWidget::prepareMotion() {
@@ -62,8 +68,8 @@ void BodyWidget::prepareMotion() {
 }
 
 void BodyWidget::followRecord() {
-    const QSize size = sizeOf(controller_.views().window.frame());
-    content_->resize(size - QSize(0, kBar));
+    const QSize size = sizeOfRecord();
+    content_->resize(size - QSize(0, bar()));
     controller_.views().keyPad.view()->statusField()->setNeedsDisplay();
     const QPixmap picture = std::exchange(picture_, {});
     if (size == (isMoving() ? motion_.endValue().toSize() : this->size())) {
@@ -91,10 +97,10 @@ void BodyWidget::followRecord() {
 
 void BodyWidget::setBodySize(const QSize& size) {
     resize(size);
-    titleBar_->setGeometry(0, 0, size.width(), kBar);
-    const int room = size.height() - kBar;
-    content_->move(0, kBar + (movesWithLowerEdge_ ? room - content_->height() : 0));
-    stillPicture_->move(0, kBar + (movesWithLowerEdge_ ? room - stillPicture_->height() : 0));
+    titleBar_->setGeometry(0, 0, size.width(), bar());
+    const int room = size.height() - bar();
+    content_->move(0, bar() + (movesWithLowerEdge_ ? room - content_->height() : 0));
+    stillPicture_->move(0, bar() + (movesWithLowerEdge_ ? room - stillPicture_->height() : 0));
     host_.didResize();
 }
 
@@ -102,7 +108,8 @@ void BodyWidget::paintEvent(QPaintEvent* /*event*/) {
     const WindowColors& colors = windowColors(palette());
     QPainter painter(this);
     painter.fillRect(rect(), colors.border);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), colors.window);
+    const int line = scale_.line();
+    painter.fillRect(rect().adjusted(line, line, -line, -line), colors.window);
 }
 
 }  // namespace talvex

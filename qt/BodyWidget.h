@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "qt/Scale.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
@@ -19,7 +20,7 @@ class BodyWidget final : public QWidget {
         std::function<void()> didResize;  // at every step of a motion
         std::function<void()> didArrive;  // the size is that of the record
     };
-    BodyWidget(DYXWindowController& controller, Host host, QWidget* parent);
+    BodyWidget(DYXWindowController& controller, Scale& scale, Host host, QWidget* parent);
 
     // Whether the size is still on its way to that of the record.
     [[nodiscard]] bool isMoving() const { return motion_.state() == QAbstractAnimation::Running; }
@@ -30,14 +31,19 @@ class BodyWidget final : public QWidget {
     void prepareMotion();
     // Takes the size of the window's record.
     void followRecord();
+    // The same at once, without a motion.
+    void takeSize();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    [[nodiscard]] QSize sizeOfRecord() const;
+    [[nodiscard]] int bar() const { return scale_.pixels(NSWindow::kTitleBarHeight); }
     void setBodySize(const QSize& size);
 
     DYXWindowController& controller_;
+    Scale& scale_;
     Host host_;
     QWidget* titleBar_;
     QWidget* content_;

@@ -5,63 +5,65 @@
 #include <QMouseEvent>
 #include <QWindow>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "qt/BodyWidget.h"
 #include "qt/DrawerWidget.h"
 #include "qt/KeyButton.h"
 #include "qt/PanelWidget.h"
+#include "qt/SizeGrip.h"
 #include "qt/frame_extents.h"
 #include "qt/menus.h"
 #include "qt/screen_places.h"
+#include "qt/window_size.h"
 #include "ui/window_layout.h"
 
 namespace talvex {
 namespace {
-
-constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
 
 // How often to look whether the keys were let go of that were down when the window got the
 // keyboard.
 constexpr int kAdoptedWatchMilliseconds = 50;
 
 // The room that the drawers need on each side of the body.
-QMargins roomFor(const Drawers& drawers) {
-    const auto depth = [&drawers](DrawerName name) {
+QMargins roomFor(const Drawers& drawers, const Scale& scale) {
+    const auto depth = [&](DrawerName name) {
         const NSDrawer& drawer = drawers[name].record;
         const NSSize& size = drawer.maxContentSize();
-        return static_cast<int>((drawer.isLevel() ? size.height : size.width) +
-                                NSDrawer::kOuterBorder);
+        return scale.pixels(drawer.isLevel() ? size.height : size.width) +
+               scale.pixels(NSDrawer::kOuterBorder);
     };
     return {depth(DrawerName::constants), depth(DrawerName::conversion), depth(DrawerName::memory),
             depth(DrawerName::functions)};
 }
 
-QSize sizeOfBody(const WindowLayout& layout) {
+NSSize sizeOfBody(const WindowLayout& layout) {
     const NSRect frame = NSWindow::frameRectForContentRect(contentFrame(layout));
-    return {static_cast<int>(frame.width), static_cast<int>(frame.height)};
+    return {frame.width, frame.height};
 }
 
-QSize largestBody() { return sizeOfBody({.displayViewMode = 1, .showStatusLine = true}); }
-QSize smallestBody() { return sizeOfBody({.keyPadHidden = true}); }
+NSSize largestBody() { return sizeOfBody({.displayViewMode = 1, .showStatusLine = true}); }
+NSSize smallestBody() { return sizeOfBody({.keyPadHidden = true}); }
 
 }  // namespace
 
-CalculatorWindow::CalculatorWindow(DYXWindowController& controller)
+CalculatorWindow::CalculatorWindow(DYXWindowController& controller, Scale& scale)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
       controller_(controller),
-      drawerRoom_(roomFor(controller.drawers())),
+      scale_(scale),
       helpOn_(controller.localized(u"Help on")),
-      place_(*this, controller.views().window, [this] { return bodyRect(); }),
+      place_(*this, controller.views().window, scale, [this] { return bodyRect(); }),
       focusWalk_(*this) {
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
     setWindowTitle(toQString(controller_.views().window.title()));
-    setFixedSize(largestBody().grownBy(drawerRoom_));
     addShortcuts(*this, controller_.views().menu);
+    scale_.setFactor(factorOfRecord());
     makeBody();
     makeDrawers();
     body_->raise();
+    fitCanvas();
     controller_.hasSavedFrame() ? place_.takePlaceOfRecord() : place_.takeMiddle();
     controller_.views().window.setObserver(this);
     whenScreensChange(*this, [this] {
@@ -82,10 +84,11 @@ CalculatorWindow::~CalculatorWindow() { controller_.views().window.setObserver(n
 
 void CalculatorWindow::makeBody() {
     body_ = new BodyWidget(
-        controller_,
+        controller_, scale_,
         {.didResize = [this] { showPieces(); }, .didArrive = [this] { openWaitingDrawers(); }},
         this);
-    body_->move(drawerRoom_.left(), drawerRoom_.top());
+    sizeGrip_ = new SizeGrip(
+        scale_, [this](double factor) { askForSize(factor); }, body_);
 }
 
 void CalculatorWindow::makeDrawers() {
@@ -95,20 +98,25 @@ void CalculatorWindow::makeDrawers() {
         .isBodyMoving = [this] { return body_->isMoving(); },
         .didMove = [this] { showPieces(); },
         .makeRoom = [this](const QRect& wanted) { place_.makeRoomFor(wanted); },
-        .didClose = [this] { giveBackRoom(); }};
+        .didClose = [this] { giveBackRoom(); },
+        .makeContent = {}};
     const auto make = [&](DrawerName name, std::function<QWidget*(QWidget*)> makeContent) {
-        drawers_.at(static_cast<std::size_t>(name)) = new DrawerWidget(
-            controller_.drawers()[name].record, std::move(makeContent), host, this);
+        DrawerWidget::Host own = host;
+        own.makeContent = std::move(makeContent);
+        drawers_.at(static_cast<std::size_t>(name)) =
+            new DrawerWidget(controller_.drawers()[name].record, scale_, std::move(own), this);
     };
     const WindowViews& views = controller_.views();
-    const auto panel = [](const Panel& content) {
-        return [&content](QWidget* parent) { return makePanelWidget(content, parent); };
+    const auto panel = [this](const Panel& content) {
+        return
+            [this, &content](QWidget* parent) { return makePanelWidget(content, scale_, parent); };
     };
     make(DrawerName::memory, panel(views.memoryPanel));
     make(DrawerName::constants, panel(views.constantsPanel));
     make(DrawerName::functions, panel(views.functionsPanel));
-    make(DrawerName::conversion,
-         [&views](QWidget* parent) { return makeConversionWidget(views.conversionPanel, parent); });
+    make(DrawerName::conversion, [this, &views](QWidget* parent) {
+        return makeConversionWidget(views.conversionPanel, scale_, parent);
+    });
 }
 
 QRect CalculatorWindow::bodyRect() const { return body_->geometry(); }
@@ -124,6 +132,7 @@ QRegion CalculatorWindow::visibleRegion() const {
 void CalculatorWindow::windowWillAnimate(const NSWindow& /*window*/) { body_->prepareMotion(); }
 
 void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
+    takeSize();
     body_->followRecord();
     if (isVisible()) {
         place_.followRecord();
@@ -135,6 +144,9 @@ bool CalculatorWindow::isWhole() const {
 }
 
 void CalculatorWindow::showPieces() {
+    if (sizeGrip_ != nullptr) {
+        sizeGrip_->place();
+    }
     if (!isWhole()) {
         return;
     }
@@ -166,8 +178,56 @@ void CalculatorWindow::giveBackRoom() {
 // Whatever the layout and whatever a window manager made of the size: one that hears of other
 // margins than before may take the difference off the window.
 void CalculatorWindow::publishMargins() {
-    const QSize rest = largestBody() - smallestBody();
+    const QSize rest = scale_.pixels(largestBody()) - scale_.pixels(smallestBody());
     publishFrameExtents(*this, drawerRoom_ + QMargins(0, 0, rest.width(), rest.height()));
+}
+
+double CalculatorWindow::factorOfRecord() const {
+    const NSSize body = largestBody();
+    const QRect room = availableAround(isVisible() ? bodyRect().translated(pos())
+                                                   : onScreen(controller_.views().window.frame()));
+    return factorFor(controller_.views().window.size(),
+                     {static_cast<int>(body.width), static_cast<int>(body.height)}, room.size());
+}
+
+void CalculatorWindow::fitCanvas() {
+    drawerRoom_ = roomFor(controller_.drawers(), scale_);
+    body_->move(drawerRoom_.left(), drawerRoom_.top());
+    setFixedSize(scale_.pixels(largestBody()).grownBy(drawerRoom_));
+}
+
+void CalculatorWindow::takeSize() {
+    const double factor = factorOfRecord();
+    if (factor == scale_.factor()) {
+        return;
+    }
+    const QPoint corner = geometry().topLeft() + body_->pos();
+    scale_.setFactor(factor);
+    fitCanvas();
+    body_->takeSize();
+    for (DrawerWidget* const drawer : drawers_) {
+        drawer->takeSize();
+    }
+    showPieces();
+    publishMargins();
+    place_.keepCorner(corner);
+}
+
+void CalculatorWindow::askForSize(double factor) {
+    controller_.choose(
+        settingRow<&Settings::windowSize>(),
+        std::max(kSmallestSize, static_cast<std::int32_t>(std::lround(100.0 * factor))));
+}
+
+// With Ctrl the wheel sets the size.
+void CalculatorWindow::wheelEvent(QWheelEvent* event) {
+    constexpr double kStep = 0.05;
+    const int way = event->angleDelta().y();
+    if (event->modifiers().testFlag(Qt::ControlModifier) && way != 0) {
+        askForSize(scale_.factor() + (way > 0 ? kStep : -kStep));
+    } else {
+        event->ignore();
+    }
 }
 
 void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) { place_.tellRecord(); }
@@ -184,7 +244,7 @@ void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {
         };
         menu.items.insert(menu.items.begin(), {std::move(item), NSMenuItem{}});
     }
-    popUpMenu(menu, event->globalPos(), *this);
+    popUpMenu(menu, event->globalPos(), scale_, *this);
 }
 
 void CalculatorWindow::closeEvent(QCloseEvent* event) {
@@ -210,7 +270,9 @@ void CalculatorWindow::keyPressEvent(QKeyEvent* event) {
         sendFlags();
     }
     if (event->key() == Qt::Key_F10) {
-        popUpMenu(controller_.views().menu, body_->mapToGlobal(QPoint(0, kBar)), *this);
+        popUpMenu(controller_.views().menu,
+                  body_->mapToGlobal(QPoint(0, scale_.pixels(NSWindow::kTitleBarHeight))), scale_,
+                  *this);
         return;
     }
     if (focusWalk_.take(*event)) {

@@ -14,13 +14,14 @@ namespace talvex {
 
 class BodyWidget;
 class DrawerWidget;
+class SizeGrip;
 
 // The calculator on the screen. Its top level is a canvas of fixed size, large enough for the body
 // in every layout with all drawers open around it; only the body and what shows of the drawers can
 // be seen and clicked. So the body never moves while something slides out of it.
 class CalculatorWindow final : public QWidget, public NSWindowObserver {
   public:
-    explicit CalculatorWindow(DYXWindowController& controller);
+    CalculatorWindow(DYXWindowController& controller, Scale& scale);
     ~CalculatorWindow() override;
 
     void windowDidChange(const NSWindow& window) override;
@@ -35,6 +36,7 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
@@ -56,10 +58,17 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void dropModifiers();
     void sendFlags();
     void publishMargins();
+    // The size that the record wants, as far as the screen allows it.
+    void takeSize();
+    void fitCanvas();
+    [[nodiscard]] double factorOfRecord() const;
+    void askForSize(double factor);
 
     DYXWindowController& controller_;
+    Scale& scale_;
     QMargins drawerRoom_;
     BodyWidget* body_ = nullptr;
+    SizeGrip* sizeGrip_ = nullptr;
     std::array<DrawerWidget*, kDrawerNames.size()> drawers_{};
     std::u16string helpOn_;
     WindowPlace place_;

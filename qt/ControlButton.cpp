@@ -8,8 +8,8 @@
 
 namespace talvex {
 
-ControlButton::ControlButton(NSView* record, QWidget* parent)
-    : QAbstractButton(parent), record_(record) {
+ControlButton::ControlButton(NSView* record, Scale& scale, QWidget* parent)
+    : QAbstractButton(parent), record_(record), scale_(scale) {
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
@@ -19,15 +19,18 @@ void ControlButton::paintFocusRing(QPainter& painter, double radius) const {
     if (!hasFocus()) {
         return;
     }
-    constexpr double kWidth = 2.0;
-    painter.setPen(QPen(windowColors(palette()).focusRing, kWidth));
+    const double width = scale_.pixels(2.0);
+    painter.setPen(QPen(windowColors(palette()).focusRing, width));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0), radius, radius);
+    const double half = width / 2.0;
+    const double corner = scale_.exactly(radius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), corner, corner);
 }
 
 void ControlButton::tellPointer(const QPointF& place) {
     if (record_ != nullptr) {
-        record_->pointerMoved(NSPoint{place.x(), height() - 1.0 - place.y()});
+        record_->pointerMoved(
+            NSPoint{scale_.points(place.x()), scale_.points(height() - 1.0 - place.y())});
     }
 }
 

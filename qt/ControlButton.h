@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "platform/NSView.h"
+#include "qt/Scale.h"
 
 namespace talvex {
 
@@ -13,9 +14,11 @@ namespace talvex {
 class ControlButton : public QAbstractButton {
   public:
     // A button without a record stands for nothing but itself.
-    ControlButton(NSView* record, QWidget* parent);
+    ControlButton(NSView* record, Scale& scale, QWidget* parent);
 
   protected:
+    [[nodiscard]] Scale& scale() const { return scale_; }
+    // The radius in points.
     void paintFocusRing(QPainter& painter, double radius) const;
 
     void enterEvent(QEnterEvent* event) override;
@@ -29,6 +32,7 @@ class ControlButton : public QAbstractButton {
     void tellPointer(const QPointF& place);
 
     NSView* record_;
+    Scale& scale_;
 };
 
 }  // namespace talvex

@@ -7,26 +7,30 @@
 
 namespace talvex {
 
-DisplayWidget::DisplayWidget(DYXWindowController& controller, QWidget* parent)
-    : QWidget(parent), record_(*controller.views().displayView) {
+DisplayWidget::DisplayWidget(DYXWindowController& controller, Scale& scale, QWidget* parent)
+    : QWidget(parent), record_(*controller.views().displayView), scale_(scale) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     const auto [x, y, z, t] = controller.lines();
-    lines_ = {new LineWidget(*t, record_, this), new LineWidget(*z, record_, this),
-              new LineWidget(*y, record_, this), new LineWidget(*x, record_, this)};
+    lines_ = {new LineWidget(*t, record_, scale, this), new LineWidget(*z, record_, scale, this),
+              new LineWidget(*y, record_, scale, this), new LineWidget(*x, record_, scale, this)};
     WindowViews& views = controller.views();
-    new StatusWidget(*x->statusField(), views, this);
+    new StatusWidget(*x->statusField(), views, scale, this);
     for (NSPopUpButton* popUp :
          {views.angleModePopUp.get(), views.inputModePopUp.get(), views.outputModePopUp.get()}) {
-        new PopUpWidget(*popUp, this);
+        new PopUpWidget(*popUp, scale, this);
     }
     record_.setObserver(this);
+    scale_.follow(*this);
     viewDidChange(record_);
 }
 
-DisplayWidget::~DisplayWidget() { record_.setObserver(nullptr); }
+DisplayWidget::~DisplayWidget() {
+    record_.setObserver(nullptr);
+    scale_.unfollow(*this);
+}
 
 void DisplayWidget::viewDidChange(const NSView& view) {
-    setGeometry(toQRect(view.frame(), view.superview()->frame().height));
+    setGeometry(scale_.pixels(view.frame(), view.superview()->frame().height));
     for (LineWidget* line : lines_) {
         line->place();
     }
@@ -35,7 +39,7 @@ void DisplayWidget::viewDidChange(const NSView& view) {
 
 void DisplayWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    QtGraphicsContext context(painter, height());
+    QtGraphicsContext context(painter, scale_, record_.frame().height);
     record_.drawRect(context);
 }
 

@@ -16,7 +16,8 @@ namespace talvex {
 // One line of the display: paints the texts of its slots, and speaks as one text.
 class LineWidget final : public QLabel, public NSViewObserver {
   public:
-    LineWidget(const DYXOutputDisplay& line, NSView& displayView, QWidget* parent);
+    LineWidget(const DYXOutputDisplay& line, NSView& displayView, const Scale& scale,
+               QWidget* parent);
     ~LineWidget() override;
 
     void viewDidChange(const NSView& view) override;
@@ -33,13 +34,14 @@ class LineWidget final : public QLabel, public NSViewObserver {
 
     const DYXOutputDisplay& line_;
     NSView& displayView_;
+    const Scale& scale_;
 };
 
 // The small text under the X line. In a narrow window it also takes the room of the mode controls
 // that are hidden.
 class StatusWidget final : public QLabel {
   public:
-    StatusWidget(NSTextField& record, const WindowViews& views, QWidget* parent);
+    StatusWidget(NSTextField& record, const WindowViews& views, Scale& scale, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -47,13 +49,14 @@ class StatusWidget final : public QLabel {
   private:
     NSTextField& record_;
     const WindowViews& views_;
+    const Scale& scale_;
     RecordObserver observer_;
 };
 
 // A control of the display that pulls down a menu.
 class PopUpWidget final : public ControlButton {
   public:
-    PopUpWidget(NSPopUpButton& record, QWidget* parent);
+    PopUpWidget(NSPopUpButton& record, Scale& scale, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -66,18 +69,20 @@ class PopUpWidget final : public ControlButton {
 };
 
 // The pale display with its lines, its status text and its controls.
-class DisplayWidget final : public QWidget, public NSViewObserver {
+class DisplayWidget final : public QWidget, public NSViewObserver, public ScaleFollower {
   public:
-    DisplayWidget(DYXWindowController& controller, QWidget* parent);
+    DisplayWidget(DYXWindowController& controller, Scale& scale, QWidget* parent);
     ~DisplayWidget() override;
 
     void viewDidChange(const NSView& view) override;
+    void scaleDidChange() override { viewDidChange(record_); }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     DYXDisplayView& record_;
+    Scale& scale_;
     std::array<LineWidget*, 4> lines_{};
 };
 

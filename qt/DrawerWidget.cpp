@@ -14,21 +14,19 @@ namespace talvex {
 namespace {
 
 constexpr int kSlideMilliseconds = 180;
-constexpr int kBorder = static_cast<int>(NSDrawer::kOuterBorder);
 // Ahead of the content along the edge; what is left of the two ends lies behind it.
-constexpr int kLeadingEnd = 7;
-constexpr int kGripLength = 24;
+constexpr double kLeadingEnd = 7.0;
+constexpr double kGripLength = 24.0;
 constexpr float kGripOpacity = 0.45F;
 
 int whole(double value) { return static_cast<int>(std::lround(value)); }
 
 }  // namespace
 
-DrawerWidget::DrawerWidget(NSDrawer& record, std::function<QWidget*(QWidget*)> makeContent,
-                           Host host, QWidget* canvas)
+DrawerWidget::DrawerWidget(NSDrawer& record, Scale& scale, Host host, QWidget* canvas)
     : QWidget(canvas),
       record_(record),
-      makeContent_(std::move(makeContent)),
+      scale_(scale),
       host_(std::move(host)),
       stillPicture_(new QLabel(this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -56,15 +54,26 @@ DrawerWidget::~DrawerWidget() { record_.setObserver(nullptr); }
 
 void DrawerWidget::makeContentOnce() {
     if (content_ == nullptr) {
-        content_ = makeContent_(this);
+        content_ = host_.makeContent(this);
         content_->setCursor(Qt::ArrowCursor);
         content_->show();
     }
 }
 
-double DrawerWidget::fullDepth() const {
-    return NSDrawer::kOuterBorder +
-           (record_.isLevel() ? record_.contentSize().height : record_.contentSize().width);
+int DrawerWidget::fullDepth() const {
+    const QSize content = scale_.pixels(record_.contentSize());
+    return border() + (record_.isLevel() ? content.height() : content.width());
+}
+
+void DrawerWidget::takeSize() {
+    drag_.reset();
+    const bool isSliding = slide_.state() == QAbstractAnimation::Running;
+    if (record_.state() != NSDrawerOpeningState || isSliding || depth_ > 0.0) {
+        standAt(record_.isOpenOrOpening() ? fullDepth() : 0.0);
+    }
+    if (isSliding) {
+        record_.finishSliding();
+    }
 }
 
 void DrawerWidget::drawerDidChange(const NSDrawer& /*drawer*/) {
@@ -128,10 +137,10 @@ void DrawerWidget::show(double depth) {
 // A drawer that slides to less than it showed stays with the body. One at a side keeps its height
 // while the body is on its way to another one.
 QRect DrawerWidget::rectAt(double depth, const QRect& body) const {
-    const int leading = whole(record_.leadingOffset());
-    const int trailing = whole(record_.trailingOffset());
+    const int leading = scale_.pixels(record_.leadingOffset());
+    const int trailing = scale_.pixels(record_.trailingOffset());
     const int shown = whole(depth);
-    const int full = std::max(whole(fullDepth()), shown);
+    const int full = std::max(fullDepth(), shown);
     const int width = record_.isLevel() ? body.width() - leading - trailing : full;
     const int height = record_.isLevel() ? full : host_.bodyAtRest().height() - leading - trailing;
     switch (record_.edge()) {
@@ -166,24 +175,24 @@ void DrawerWidget::place() {
 }
 
 QRect DrawerWidget::contentRect(const QSize& size) const {
+    const int end = scale_.pixels(kLeadingEnd);
     switch (record_.edge()) {
         case NSMinXEdge:
-            return {QPoint(kBorder, kLeadingEnd), size};
+            return {QPoint(border(), end), size};
         case NSMaxXEdge:
-            return {QPoint(width() - kBorder - size.width(), kLeadingEnd), size};
+            return {QPoint(width() - border() - size.width(), end), size};
         case NSMinYEdge:
-            return {QPoint(kLeadingEnd, height() - kBorder - size.height()), size};
+            return {QPoint(end, height() - border() - size.height()), size};
         case NSMaxYEdge:
             break;
     }
-    return {QPoint(kLeadingEnd, kBorder), size};
+    return {QPoint(end, border()), size};
 }
 
 void DrawerWidget::followBody() {
     setGeometry(rectAt(depth_, host_.body()));
     if (content_ != nullptr) {
-        content_->setGeometry(
-            contentRect({whole(record_.contentSize().width), whole(record_.contentSize().height)}));
+        content_->setGeometry(contentRect(scale_.pixels(record_.contentSize())));
     }
     if (stillPicture_->isVisible()) {
         stillPicture_->setGeometry(contentRect(stillPicture_->size()));
@@ -199,28 +208,30 @@ void DrawerWidget::keepPicture() {
 QRect DrawerWidget::grip() const {
     switch (record_.edge()) {
         case NSMinXEdge:
-            return {0, 0, kBorder, height()};
+            return {0, 0, border(), height()};
         case NSMaxXEdge:
-            return {width() - kBorder, 0, kBorder, height()};
+            return {width() - border(), 0, border(), height()};
         case NSMinYEdge:
-            return {0, height() - kBorder, width(), kBorder};
+            return {0, height() - border(), width(), border()};
         case NSMaxYEdge:
             break;
     }
-    return {0, 0, width(), kBorder};
+    return {0, 0, width(), border()};
 }
 
 void DrawerWidget::paintEvent(QPaintEvent* /*event*/) {
     const WindowColors& colors = windowColors(palette());
     QPainter painter(this);
     painter.fillRect(rect(), colors.border);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), colors.drawer);
+    const int line = scale_.line();
+    painter.fillRect(rect().adjusted(line, line, -line, -line), colors.drawer);
     // A short line on the outer edge says that it can be taken hold of.
     const QPoint center = grip().center();
-    const QSize half = record_.isLevel() ? QSize(kGripLength / 2, 0) : QSize(0, kGripLength / 2);
+    const int length = scale_.pixels(kGripLength / 2.0);
+    const QSize half = record_.isLevel() ? QSize(length, 0) : QSize(0, length);
     QColor mark = colors.title;
     mark.setAlphaF(kGripOpacity);
-    painter.setPen(QPen(mark, 2.0, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(mark, scale_.exactly(2.0), Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(center - QPoint(half.width(), half.height()),
                      center + QPoint(half.width(), half.height()));
 }
@@ -237,10 +248,11 @@ void DrawerWidget::mouseMoveEvent(QMouseEvent* event) {
     if (!drag_) {
         return;
     }
-    const QPoint way = event->globalPosition().toPoint() - drag_->start;
+    const QPoint pixels = event->globalPosition().toPoint() - drag_->start;
+    const NSPoint way{std::round(scale_.points(pixels.x())), std::round(scale_.points(pixels.y()))};
     NSSize size = drag_->size;
-    size.width += record_.edge() == NSMaxXEdge ? way.x() : record_.isLevel() ? 0 : -way.x();
-    size.height += record_.edge() == NSMinYEdge ? way.y() : record_.isLevel() ? -way.y() : 0;
+    size.width += record_.edge() == NSMaxXEdge ? way.x : record_.isLevel() ? 0.0 : -way.x;
+    size.height += record_.edge() == NSMinYEdge ? way.y : record_.isLevel() ? -way.y : 0.0;
     record_.dragContentsToSize(size);
 }
 

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "platform/NSDrawer.h"
+#include "qt/Scale.h"
 
 namespace talvex {
 
@@ -22,14 +23,15 @@ class DrawerWidget final : public QWidget, public NSDrawerObserver {
         std::function<void()> didMove;                      // what is on show has changed
         std::function<void(const QRect& wanted)> makeRoom;  // brings a place onto the screen
         std::function<void()> didClose;
+        std::function<QWidget*(QWidget*)> makeContent;  // when it is first opened
     };
-    // `makeContent` runs when the drawer is first opened.
-    DrawerWidget(NSDrawer& record, std::function<QWidget*(QWidget*)> makeContent, Host host,
-                 QWidget* canvas);
+    DrawerWidget(NSDrawer& record, Scale& scale, Host host, QWidget* canvas);
     ~DrawerWidget() override;
 
     void drawerDidChange(const NSDrawer& drawer) override;
     void followBody();
+    // The scale has changed: whatever moved arrives at once.
+    void takeSize();
     [[nodiscard]] const NSDrawer& record() const { return record_; }
     // What can be seen of the drawer, in the canvas; empty while it is closed.
     [[nodiscard]] QRect visibleRect() const;
@@ -48,7 +50,8 @@ class DrawerWidget final : public QWidget, public NSDrawerObserver {
     // Where something of the content's size lies in the drawer: at its outer edge.
     [[nodiscard]] QRect contentRect(const QSize& size) const;
     // How much shows of the drawer as it is drawn out.
-    [[nodiscard]] double fullDepth() const;
+    [[nodiscard]] int fullDepth() const;
+    [[nodiscard]] int border() const { return scale_.pixels(NSDrawer::kOuterBorder); }
     [[nodiscard]] QRect grip() const;
     void open();
     void slideTo(double depth);
@@ -60,7 +63,7 @@ class DrawerWidget final : public QWidget, public NSDrawerObserver {
     void keepPicture();
 
     NSDrawer& record_;
-    std::function<QWidget*(QWidget*)> makeContent_;
+    Scale& scale_;
     Host host_;
     QWidget* content_ = nullptr;
     QLabel* stillPicture_;  // of the content as it was, while the drawer slides to less of it

@@ -17,7 +17,7 @@
 namespace talvex {
 namespace {
 
-constexpr int kListWidth = 136;
+constexpr double kListWidth = 136.0;
 constexpr int kListSpacing = 3;
 constexpr QSize kSmallest(420, 260);
 constexpr double kTextSize = 13.0;
@@ -53,7 +53,8 @@ class LinkDecision final : public WebPolicyDecisionListener {
 
 }  // namespace
 
-HelpBrowser::HelpBrowser(WebView& record, QWidget* parent) : QTextBrowser(parent), record_(record) {
+HelpBrowser::HelpBrowser(WebView& record, const Scale& scale, QWidget* parent)
+    : QTextBrowser(parent), record_(record), scale_(scale) {
     setOpenLinks(false);
     setFrameShape(QFrame::NoFrame);
     document()->setDocumentMargin(16.0);
@@ -65,7 +66,7 @@ void HelpBrowser::loadRequested() { setSource(QUrl(toQString(record_.requestedUR
 
 void HelpBrowser::takeTextSize() {
     const double size = kTextSize + record_.textSteps();
-    setFont(toQFont({.name = u"Lucida Grande", .size = size}));
+    setFont(scale_.font({.name = u"Lucida Grande", .size = size}));
 }
 
 void HelpBrowser::follow(const QUrl& link) {
@@ -102,20 +103,19 @@ void HelpBrowser::wheelEvent(QWheelEvent* event) {
     }
 }
 
-HelpWidget::HelpWidget(DYXWindowController& controller)
+HelpWidget::HelpWidget(DYXWindowController& controller, Scale& scale)
     : QWidget(nullptr, Qt::Window),
       controller_(controller),
+      scale_(scale),
       pages_(new QListWidget(this)),
-      browser_(new HelpBrowser(controller.views().help.webView, this)) {
+      browser_(new HelpBrowser(controller.views().help.webView, scale, this)) {
     NSMatrix& matrix = *controller_.views().help.matrix;
     setWindowTitle(toQString(controller_.views().help.window.title()));
     for (int row = 0; row < matrix.numberOfRows(); ++row) {
         pages_->addItem(toQString(controller_.localized(matrix.cellAt(row, 0).title)));
     }
-    pages_->setFixedWidth(kListWidth);
     pages_->setFrameShape(QFrame::NoFrame);
     pages_->setSpacing(kListSpacing);
-    pages_->setFont(toQFont({.name = u"Lucida Grande", .size = kTextSize}));
     pages_->setAccessibleName(toQString(controller_.localized(u"pages of the help")));
     connect(pages_, &QListWidget::currentRowChanged, this, [&matrix](int row) {
         if (row != matrix.selectedRow()) {
@@ -132,10 +132,20 @@ HelpWidget::HelpWidget(DYXWindowController& controller)
     setMinimumSize(kSmallest);
     setFocusProxy(browser_);
     addShortcuts();
+    scale_.follow(*this);
+    scaleDidChange();
     whenScreensChange(*this, [this] {
         comeIntoSight();
         tellPlace();
     });
+}
+
+HelpWidget::~HelpWidget() { scale_.unfollow(*this); }
+
+void HelpWidget::scaleDidChange() {
+    pages_->setFixedWidth(scale_.pixels(kListWidth));
+    pages_->setFont(scale_.font({.name = u"Lucida Grande", .size = kTextSize}));
+    browser_->takeTextSize();
 }
 
 void HelpWidget::comeIntoSight() {
@@ -202,7 +212,8 @@ void HelpWidget::tellPlace() {
 void HelpWidget::moveEvent(QMoveEvent* /*event*/) { tellPlace(); }
 void HelpWidget::resizeEvent(QResizeEvent* /*event*/) { tellPlace(); }
 
-HelpPresenter::HelpPresenter(DYXWindowController& controller) : controller_(controller) {
+HelpPresenter::HelpPresenter(DYXWindowController& controller, Scale& scale)
+    : controller_(controller), scale_(scale) {
     HelpViews& help = controller_.views().help;
     help.window.setObserver(this);
     help.webView.setObserver(this);
@@ -216,7 +227,7 @@ HelpPresenter::~HelpPresenter() {
 
 void HelpPresenter::windowDidChange(const NSWindow& window) {
     if (window.isVisible() && !widget_) {
-        widget_ = std::make_unique<HelpWidget>(controller_);
+        widget_ = std::make_unique<HelpWidget>(controller_, scale_);
     }
     if (widget_) {
         widget_->followRecord();

@@ -7,6 +7,7 @@
 
 #include "platform/NSWindow.h"
 #include "platform/WebView.h"
+#include "qt/Scale.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
@@ -14,7 +15,7 @@ namespace talvex {
 // Shows a page of the help, light or dark as the desktop is. Links are for the record to decide.
 class HelpBrowser final : public QTextBrowser {
   public:
-    HelpBrowser(WebView& record, QWidget* parent);
+    HelpBrowser(WebView& record, const Scale& scale, QWidget* parent);
 
     void loadRequested();
     void takeTextSize();
@@ -28,13 +29,16 @@ class HelpBrowser final : public QTextBrowser {
     void follow(const QUrl& link);
 
     WebView& record_;
+    const Scale& scale_;
 };
 
 // The window of the help: the matrix of its pages on the left, the page on the right.
-class HelpWidget final : public QWidget {
+class HelpWidget final : public QWidget, public ScaleFollower {
   public:
-    explicit HelpWidget(DYXWindowController& controller);
+    HelpWidget(DYXWindowController& controller, Scale& scale);
+    ~HelpWidget() override;
 
+    void scaleDidChange() override;
     [[nodiscard]] HelpBrowser& browser() { return *browser_; }
     void followRecord();
     void followPage(const QUrl& url);
@@ -51,6 +55,7 @@ class HelpWidget final : public QWidget {
     void tellPlace();
 
     DYXWindowController& controller_;
+    Scale& scale_;
     QListWidget* pages_;
     HelpBrowser* browser_;
 };
@@ -58,7 +63,7 @@ class HelpWidget final : public QWidget {
 // Makes the window of the help when it is first shown; until then it costs nothing.
 class HelpPresenter final : public NSWindowObserver, public WebViewObserver {
   public:
-    explicit HelpPresenter(DYXWindowController& controller);
+    HelpPresenter(DYXWindowController& controller, Scale& scale);
     HelpPresenter(const HelpPresenter&) = delete;
     HelpPresenter& operator=(const HelpPresenter&) = delete;
     ~HelpPresenter();
@@ -79,6 +84,7 @@ class HelpPresenter final : public NSWindowObserver, public WebViewObserver {
     void showRequestedPage();
 
     DYXWindowController& controller_;
+    Scale& scale_;
     std::unique_ptr<HelpWidget> widget_;
     bool isPageRequested_ = true;
 };

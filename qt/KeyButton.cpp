@@ -14,12 +14,12 @@ constexpr double kTextMargin = 3.0;
 
 }  // namespace
 
-KeyButton::KeyButton(const Key& key, QWidget* parent)
-    : ControlButton(key.button.get(), parent),
+KeyButton::KeyButton(const Key& key, Scale& scale, QWidget* parent)
+    : ControlButton(key.button.get(), scale, parent),
       record_(*key.button),
       group_(key.group),
       keyClass_(key.keyClass),
-      observer_(*this, record_, [this] { setChecked(record_.state() != 0); }) {
+      observer_(*this, scale, record_, [this] { setChecked(record_.state() != 0); }) {
     setCheckable(isModifier());
     setChecked(record_.state() != 0);
     connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
@@ -40,28 +40,32 @@ void KeyButton::paintEvent(QPaintEvent* /*event*/) {
                                        : key.face;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(face.darker(isDown() ? 125 : 118), 1.0));
+    const double line = scale().line();
+    painter.setPen(QPen(face.darker(isDown() ? 125 : 118), line));
     painter.setBrush(face);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
-    const QRectF inside = QRectF(rect()).adjusted(kTextMargin, 0.0, -kTextMargin, 0.0);
-    paintTitle(painter, isDown() ? inside.translated(0.0, 1.0) : inside, key.text);
+    const double half = line / 2.0;
+    const double radius = scale().exactly(kRadius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), radius, radius);
+    const double margin = scale().exactly(kTextMargin);
+    const QRectF inside = QRectF(rect()).adjusted(margin, 0.0, -margin, 0.0);
+    paintTitle(painter, isDown() ? inside.translated(0.0, line) : inside, key.text);
     paintFocusRing(painter, kRadius);
 }
 
 void KeyButton::paintTitle(QPainter& painter, const QRectF& rect, const QColor& color) const {
     if (keyClass_ == KeyClass::lock) {
-        paintPadlock(painter, rect, record_.state() != 0, color);
+        paintPadlock(painter, rect, scale(), {.isOpen = record_.state() != 0, .color = color});
         return;
     }
     if (!record_.image().empty()) {
-        paintImage(painter, rect, record_.image(), color);
+        paintImage(painter, rect, scale(), {.name = record_.image(), .color = color});
         return;
     }
     painter.setPen(color);
     if (!record_.attributedTitle().string.empty()) {
-        paintCentered(painter, rect, record_.attributedTitle());
+        paintCentered(painter, rect, scale(), record_.attributedTitle());
     } else {
-        paintCentered(painter, rect, simpleTexTitle(record_.title(), record_.font()));
+        paintCentered(painter, rect, scale(), simpleTexTitle(record_.title(), record_.font()));
     }
 }
 

@@ -10,7 +10,7 @@ namespace talvex {
 // A key of the key pad on the screen.
 class KeyButton final : public ControlButton {
   public:
-    KeyButton(const Key& key, QWidget* parent);
+    KeyButton(const Key& key, Scale& scale, QWidget* parent);
 
     [[nodiscard]] const CommandButton& record() const { return record_; }
     // Whether the help has something on what the key does.

@@ -7,8 +7,8 @@
 namespace talvex {
 namespace {
 
-constexpr int kPadding = 2;
-constexpr int kSmallestText = 7;
+constexpr double kPadding = 2.0;
+constexpr double kSmallestText = 7.0;
 
 // Text hangs from the top of its field, which brings labels and numbers onto one baseline.
 Qt::Alignment alignmentOf(NSTextAlignment alignment) {
@@ -24,9 +24,10 @@ Qt::Alignment alignmentOf(NSTextAlignment alignment) {
 }
 
 // The field's font, smaller if the text doesn't fit otherwise: no digit may be cut off.
-QFont fittingFont(const NSTextField& field, const QString& text, int width) {
-    QFont font = toQFont(field.font());
-    while (font.pixelSize() > kSmallestText && QFontMetrics(font).horizontalAdvance(text) > width) {
+QFont fittingFont(const NSTextField& field, const Scale& scale, const QString& text, int width) {
+    QFont font = scale.font(field.font());
+    while (font.pixelSize() > scale.pixels(kSmallestText) &&
+           QFontMetrics(font).horizontalAdvance(text) > width) {
         font.setPixelSize(font.pixelSize() - 1);
     }
     return font;
@@ -38,13 +39,20 @@ QString shownText(const NSTextField& field, bool isSign) {
     return isSign && text == QLatin1String("-") ? QString(QChar(0x2212)) : text;
 }
 
-void paintText(QPainter& painter, const QRect& rect, const NSTextField& field, const QString& text,
-               int padding = kPadding) {
+struct FieldText {
+    const NSTextField& field;
+    QString text;
+    double padding = kPadding;
+};
+
+void paintText(QPainter& painter, const QRect& rect, const Scale& scale, const FieldText& shown) {
+    const auto& [field, text, points] = shown;
+    const int padding = scale.pixels(points);
     if (text.isEmpty() || field.isHidden()) {
         return;
     }
     const QRect inside = rect.adjusted(padding, 0, -padding, 0);
-    painter.setFont(fittingFont(field, text, inside.width()));
+    painter.setFont(fittingFont(field, scale, text, inside.width()));
     painter.setPen(toQColor(field.textColor()));
     painter.drawText(inside, static_cast<int>(alignmentOf(field.alignment())) | Qt::TextSingleLine,
                      text);
@@ -54,8 +62,9 @@ double rightEdge(const NSView& view) { return view.frame().x + view.frame().widt
 
 }  // namespace
 
-LineWidget::LineWidget(const DYXOutputDisplay& line, NSView& displayView, QWidget* parent)
-    : QLabel(parent), line_(line), displayView_(displayView) {
+LineWidget::LineWidget(const DYXOutputDisplay& line, NSView& displayView, const Scale& scale,
+                       QWidget* parent)
+    : QLabel(parent), line_(line), displayView_(displayView), scale_(scale) {
     for (NSTextField* slot : textSlots()) {
         slot->setObserver(this);
     }
@@ -78,10 +87,10 @@ void LineWidget::place() {
     const double displayHeight = displayView_.frame().height;
     const NSRect label = line_.labelField()->frame();
     const NSRect mantissa = line_.mantissaField()->frame();
-    setGeometry(toQRect({.y = label.y,
-                         .width = displayView_.frame().width,
-                         .height = mantissa.y + mantissa.height - label.y},
-                        displayHeight));
+    setGeometry(scale_.pixels({.y = label.y,
+                               .width = displayView_.frame().width,
+                               .height = mantissa.y + mantissa.height - label.y},
+                              displayHeight));
     setVisible(mantissa.y + mantissa.height <= displayHeight);
     updateAccessibleText();
 }
@@ -113,22 +122,31 @@ void LineWidget::updateAccessibleText() {
 
 void LineWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const NSRect row{.y = line_.labelField()->frame().y, .height = static_cast<double>(height())};
+    const double bottom = line_.labelField()->frame().y;
+    const NSRect mantissa = line_.mantissaField()->frame();
+    const double rowHeight = mantissa.y + mantissa.height - bottom;
     for (const NSTextField* slot : textSlots()) {
         NSRect place = slot->frame();
-        place.y -= row.y;
+        place.y -= bottom;
         const bool isSign =
             slot == line_.mantissaSignField().get() || slot == line_.exponentSignField().get();
         const bool isLabel = slot == line_.labelField().get();
-        paintText(painter, toQRect(place, row.height), *slot, shownText(*slot, isSign),
-                  isLabel ? 0 : kPadding);
+        paintText(painter, scale_.pixels(place, rowHeight), scale_,
+                  {.field = *slot,
+                   .text = shownText(*slot, isSign),
+                   .padding = isLabel ? 0.0 : kPadding});
     }
 }
 
-StatusWidget::StatusWidget(NSTextField& record, const WindowViews& views, QWidget* parent)
-    : QLabel(parent), record_(record), views_(views), observer_(*this, record, [this] {
+StatusWidget::StatusWidget(NSTextField& record, const WindowViews& views, Scale& scale,
+                           QWidget* parent)
+    : QLabel(parent),
+      record_(record),
+      views_(views),
+      scale_(scale),
+      observer_(*this, scale, record, [this] {
           QRect wide = geometry();
-          wide.setLeft(static_cast<int>(rightEdge(*views_.inputModePopUp)));
+          wide.setLeft(scale_.pixels(rightEdge(*views_.inputModePopUp)));
           setGeometry(wide);
       }) {}
 
@@ -141,9 +159,9 @@ void StatusWidget::paintEvent(QPaintEvent* /*event*/) {
                                   ? static_cast<NSView&>(*views_.inputModePopUp)
                                   : *views_.outputModePopUp;
     QRect room = rect();
-    room.setLeft(static_cast<int>(rightEdge(neighbour)) - x());
+    room.setLeft(scale_.pixels(rightEdge(neighbour)) - x());
     QPainter painter(this);
-    paintText(painter, room, record_, text);
+    paintText(painter, room, scale_, {.field = record_, .text = text});
 }
 
 }  // namespace talvex

@@ -11,12 +11,13 @@
 namespace talvex {
 namespace {
 
-constexpr int kPadding = 2;
+constexpr double kPadding = 2.0;
 
 }  // namespace
 
-StatusFieldWidget::StatusFieldWidget(NSTextField& record, QWidget* parent, const NSView* within)
-    : QLabel(parent), record_(record), observer_(*this, record, {}, within) {}
+StatusFieldWidget::StatusFieldWidget(NSTextField& record, Scale& scale, QWidget* parent,
+                                     const NSView* within)
+    : QLabel(parent), record_(record), scale_(scale), observer_(*this, scale, record, {}, within) {}
 
 void StatusFieldWidget::paintEvent(QPaintEvent* /*event*/) {
     const NSAttributedString& text = record_.attributedStringValue();
@@ -30,26 +31,27 @@ void StatusFieldWidget::paintEvent(QPaintEvent* /*event*/) {
     }
     QPainter painter(this);
     painter.setPen(windowColors(palette()).title);
-    paintLeft(painter, room.adjusted(kPadding, 0, -kPadding, 0), text);
+    const int padding = scale_.pixels(kPadding);
+    paintLeft(painter, room.adjusted(padding, 0, -padding, 0), scale_, text);
 }
 
-PanelWidget::PanelWidget(NSView& view, const std::vector<Key>& keys, QWidget* parent)
-    : QWidget(parent), observer_(*this, view) {
+PanelWidget::PanelWidget(NSView& view, const std::vector<Key>& keys, Scale& scale, QWidget* parent)
+    : QWidget(parent), observer_(*this, scale, view) {
     for (const Key& key : keys) {
-        new KeyButton(key, this);
+        new KeyButton(key, scale, this);
     }
 }
 
-QWidget* makePanelWidget(const Panel& panel, QWidget* parent) {
-    auto* const widget = new PanelWidget(*panel.view, panel.keys, parent);
-    new StatusFieldWidget(*panel.view->statusField(), widget);
+QWidget* makePanelWidget(const Panel& panel, Scale& scale, QWidget* parent) {
+    auto* const widget = new PanelWidget(*panel.view, panel.keys, scale, parent);
+    new StatusFieldWidget(*panel.view->statusField(), scale, widget);
     return widget;
 }
 
-QWidget* makeConversionWidget(const ConversionPanel& panel, QWidget* parent) {
-    auto* const widget = new PanelWidget(*panel.view, {}, parent);
-    new TabViewWidget(panel, widget);
-    new StatusFieldWidget(*panel.tabView->statusField(), widget);
+QWidget* makeConversionWidget(const ConversionPanel& panel, Scale& scale, QWidget* parent) {
+    auto* const widget = new PanelWidget(*panel.view, {}, scale, parent);
+    new TabViewWidget(panel, scale, widget);
+    new StatusFieldWidget(*panel.tabView->statusField(), scale, widget);
     return widget;
 }
 

@@ -14,12 +14,12 @@ const QColor kDown(0x2A, 0x2F, 0x1E, 0x48);
 
 }  // namespace
 
-PopUpWidget::PopUpWidget(NSPopUpButton& record, QWidget* parent)
-    : ControlButton(&record, parent), record_(record), observer_(*this, record) {
+PopUpWidget::PopUpWidget(NSPopUpButton& record, Scale& scale, QWidget* parent)
+    : ControlButton(&record, scale, parent), record_(record), observer_(*this, scale, record) {
     connect(this, &QAbstractButton::pressed, this, &PopUpWidget::showMenu);
 }
 
-void PopUpWidget::showMenu() { pullDownMenu(record_.menu(), *this); }
+void PopUpWidget::showMenu() { pullDownMenu(record_.menu(), scale(), *this); }
 
 void PopUpWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
@@ -27,13 +27,14 @@ void PopUpWidget::paintEvent(QPaintEvent* /*event*/) {
     if (isDown() || underMouse()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(isDown() ? kDown : kHover);
-        painter.drawRoundedRect(QRectF(rect()), kRadius, kRadius);
+        const double radius = scale().exactly(kRadius);
+        painter.drawRoundedRect(QRectF(rect()), radius, radius);
     }
-    painter.setFont(toQFont(record_.font()));
+    painter.setFont(scale().font(record_.font()));
     painter.setPen(kText);
     // One point lower, on the baseline of the status text.
-    painter.drawText(rect().translated(0, 1), Qt::AlignCenter | Qt::TextSingleLine,
-                     toQString(record_.title()));
+    painter.drawText(rect().translated(0, scale().pixels(1.0)),
+                     Qt::AlignCenter | Qt::TextSingleLine, toQString(record_.title()));
     paintFocusRing(painter, kRadius);
 }
 

@@ -11,8 +11,9 @@ void QtGraphicsContext::setShouldAntialias(bool antialias) {
 }
 
 void QtGraphicsContext::fillRect(const NSRect& rect, const NSColor& color) {
-    painter_.fillRect(QRectF(rect.x, viewHeight_ - rect.y - rect.height, rect.width, rect.height),
-                      toQColor(color));
+    const QPoint from(scale_.pixels(rect.x), scale_.pixels(viewHeight_ - rect.y - rect.height));
+    const QPoint to(scale_.pixels(rect.x + rect.width), scale_.pixels(viewHeight_ - rect.y));
+    painter_.fillRect(QRect(from, QSize(to.x() - from.x(), to.y() - from.y())), toQColor(color));
 }
 
 // Without antialiasing a line covers the row or the column of points that starts at it.

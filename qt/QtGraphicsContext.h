@@ -3,14 +3,16 @@
 #include <QPainter>
 
 #include "platform/NSGraphicsContext.h"
+#include "qt/Scale.h"
 
 namespace talvex {
 
 // Draws with a painter whose y grows downward into a view whose y grows upward.
 class QtGraphicsContext final : public NSGraphicsContext {
   public:
-    QtGraphicsContext(QPainter& painter, double viewHeight)
-        : painter_(painter), viewHeight_(viewHeight) {}
+    // The view has that height in points.
+    QtGraphicsContext(QPainter& painter, const Scale& scale, double viewHeight)
+        : painter_(painter), scale_(scale), viewHeight_(viewHeight) {}
 
     [[nodiscard]] bool isFlipped() const override { return false; }
     void setShouldAntialias(bool antialias) override;
@@ -19,6 +21,7 @@ class QtGraphicsContext final : public NSGraphicsContext {
 
   private:
     QPainter& painter_;
+    const Scale& scale_;
     double viewHeight_;
 };
 

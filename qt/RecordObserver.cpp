@@ -4,14 +4,22 @@
 
 namespace talvex {
 
-RecordObserver::RecordObserver(QWidget& widget, NSView& record, std::function<void()> changed,
-                               const NSView* within)
-    : widget_(widget), record_(record), changed_(std::move(changed)), within_(within) {
+RecordObserver::RecordObserver(QWidget& widget, Scale& scale, NSView& record,
+                               std::function<void()> changed, const NSView* within)
+    : widget_(widget),
+      scale_(scale),
+      record_(record),
+      changed_(std::move(changed)),
+      within_(within) {
     record_.setObserver(this);
+    scale_.follow(*this);
     viewDidChange(record_);
 }
 
-RecordObserver::~RecordObserver() { record_.setObserver(nullptr); }
+RecordObserver::~RecordObserver() {
+    record_.setObserver(nullptr);
+    scale_.unfollow(*this);
+}
 
 void RecordObserver::viewDidChange(const NSView& view) {
     if (const NSView* parent = view.superview()) {
@@ -20,7 +28,7 @@ void RecordObserver::viewDidChange(const NSView& view) {
             frame.x += parent->frame().x;
             frame.y += parent->frame().y;
         }
-        widget_.setGeometry(toQRect(frame, parent->frame().height));
+        widget_.setGeometry(scale_.pixels(frame, parent->frame().height));
     }
     widget_.setVisible(!view.isHidden());
     const QString toolTip = toQString(view.toolTip());

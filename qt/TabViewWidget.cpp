@@ -8,8 +8,8 @@
 
 namespace talvex {
 
-TabButton::TabButton(DYXTabView& tabView, int index, QWidget* parent)
-    : ControlButton(nullptr, parent), tabView_(tabView), index_(index) {
+TabButton::TabButton(DYXTabView& tabView, int index, Scale& scale, QWidget* parent)
+    : ControlButton(nullptr, scale, parent), tabView_(tabView), index_(index) {
     setCheckable(true);
     setText(toQString(cell().title));
     setAccessibleName(toQString(cell().title));
@@ -24,7 +24,7 @@ void TabButton::place() {
     NSRect frame = tabView_.matrix().cellFrame(row(), column());
     frame.x += matrix.x;
     frame.y += matrix.y;
-    setGeometry(toQRect(frame, tabView_.superview()->frame().height));
+    setGeometry(scale().pixels(frame, tabView_.superview()->frame().height));
     setChecked(cell().state != 0);
 }
 
@@ -37,24 +37,26 @@ void TabButton::paintEvent(QPaintEvent* /*event*/) {
                                                        : key.face;
     QPainter painter(this);
     painter.fillRect(rect(), colors.border);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), face);
-    painter.setFont(toQFont(cell().font));
+    const int line = scale().line();
+    painter.fillRect(rect().adjusted(line, line, -line, -line), face);
+    painter.setFont(scale().font(cell().font));
     painter.setPen(key.text);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
     paintFocusRing(painter, 0.0);
 }
 
-TabViewWidget::TabViewWidget(const ConversionPanel& panel, QWidget* parent)
+TabViewWidget::TabViewWidget(const ConversionPanel& panel, Scale& scale, QWidget* parent)
     : QWidget(parent),
       panel_(panel),
+      scale_(scale),
       pages_(panel.pages.size(), nullptr),
-      observer_(*this, *panel.tabView, [this] {
+      observer_(*this, scale, *panel.tabView, [this] {
           showPage();
           placeTabs();
       }) {
     const NSMatrix& matrix = panel.tabView->matrix();
     for (int index = 0; index < matrix.numberOfRows() * matrix.numberOfColumns(); ++index) {
-        tabs_.push_back(new TabButton(*panel.tabView, index, parent));
+        tabs_.push_back(new TabButton(*panel.tabView, index, scale, parent));
     }
     placeTabs();
 }
@@ -64,7 +66,7 @@ void TabViewWidget::showPage() {
     const auto selected = static_cast<std::size_t>(panel_.tabView->indexOfSelectedItem());
     if (selected < pages_.size() && pages_[selected] == nullptr) {
         pages_[selected] = new PanelWidget(*panel_.tabView->tabViewItems()[selected].view,
-                                           panel_.pages[selected], this);
+                                           panel_.pages[selected], scale_, this);
     }
 }
 
@@ -79,7 +81,7 @@ void TabViewWidget::paintEvent(QPaintEvent* /*event*/) {
     constexpr double kOnDark = 0.3;
     QPainter painter(this);
     painter.setOpacity(isDark(palette()) ? kOnDark : 1.0);
-    QtGraphicsContext context(painter, height());
+    QtGraphicsContext context(painter, scale_, panel_.tabView->frame().height);
     panel_.tabView->drawRect(context);
 }
 

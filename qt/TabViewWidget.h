@@ -14,7 +14,7 @@ class TabButton;
 // The tab view of units: the frame, the page of keys in it, and the tab buttons above.
 class TabViewWidget final : public QWidget {
   public:
-    TabViewWidget(const ConversionPanel& panel, QWidget* parent);
+    TabViewWidget(const ConversionPanel& panel, Scale& scale, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -24,6 +24,7 @@ class TabViewWidget final : public QWidget {
     void showPage();
 
     const ConversionPanel& panel_;
+    Scale& scale_;
     std::vector<QWidget*> pages_;  // null until first shown
     std::vector<TabButton*> tabs_;
     RecordObserver observer_;
@@ -32,7 +33,7 @@ class TabViewWidget final : public QWidget {
 // One button of the matrix of a tab view, by its place in reading order.
 class TabButton final : public ControlButton {
   public:
-    TabButton(DYXTabView& tabView, int index, QWidget* parent);
+    TabButton(DYXTabView& tabView, int index, Scale& scale, QWidget* parent);
 
     void place();
 

@@ -11,24 +11,24 @@
 namespace talvex {
 namespace {
 
-constexpr int kButtonSide = 16;
-constexpr int kButtonTop = 3;
-constexpr int kEdge = 5;
-constexpr int kStep = 20;
+constexpr double kButtonSide = 16;
+constexpr double kButtonTop = 3;
+constexpr double kEdge = 5;
+constexpr double kStep = 20;
 constexpr double kTitleSize = 11.0;
 constexpr double kHoverRadius = 4.0;
 
 }  // namespace
 
-TitleBarButton::TitleBarButton(Sign sign, const QString& name, QWidget* parent)
-    : ControlButton(nullptr, parent), sign_(sign) {
+TitleBarButton::TitleBarButton(Sign sign, const QString& name, Scale& scale, QWidget* parent)
+    : ControlButton(nullptr, scale, parent), sign_(sign) {
     setAccessibleName(name);
     setToolTip(name);
 }
 
-TitleBarButton::TitleBarButton(NSButton& record, QWidget* parent)
-    : ControlButton(&record, parent), record_(&record) {
-    observer_.emplace(*this, record);
+TitleBarButton::TitleBarButton(NSButton& record, Scale& scale, QWidget* parent)
+    : ControlButton(&record, scale, parent), record_(&record) {
+    observer_.emplace(*this, scale, record);
     connect(this, &QAbstractButton::clicked, this, [this] { record_->performClick(); });
 }
 
@@ -39,19 +39,21 @@ void TitleBarButton::paintEvent(QPaintEvent* /*event*/) {
     if (isDown() || underMouse()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(isDown() ? pressedFace(colors.function.face) : colors.function.face);
-        painter.drawRoundedRect(QRectF(rect()), kHoverRadius, kHoverRadius);
+        const double radius = scale().exactly(kHoverRadius);
+        painter.drawRoundedRect(QRectF(rect()), radius, radius);
     }
     if (sign_) {
         paintSign(painter, colors.title);
     } else {
-        paintImage(painter, rect(), record_->image(), colors.title);
+        paintImage(painter, rect(), scale(), {.name = record_->image(), .color = colors.title});
     }
     paintFocusRing(painter, kHoverRadius);
 }
 
 void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
-    painter.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap));
-    const QRectF box = QRectF(rect()).adjusted(4.5, 4.5, -4.5, -4.5);
+    painter.setPen(QPen(color, scale().exactly(1.4), Qt::SolidLine, Qt::RoundCap));
+    const double margin = scale().pixels(4.0) + 0.5;
+    const QRectF box = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
     switch (*sign_) {
         case Sign::close:
             painter.drawLine(box.topLeft(), box.bottomRight());
@@ -73,39 +75,43 @@ void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
     }
 }
 
-TitleBar::TitleBar(DYXWindowController& controller, QWidget* parent)
+TitleBar::TitleBar(DYXWindowController& controller, Scale& scale, QWidget* parent)
     : QWidget(parent),
       window_(controller.views().window),
+      scale_(scale),
       close_(new TitleBarButton(TitleBarButton::Sign::close,
-                                toQString(controller.localized(u"close")), this)),
+                                toQString(controller.localized(u"close")), scale, this)),
       minimise_(new TitleBarButton(TitleBarButton::Sign::minimise,
-                                   toQString(controller.localized(u"minimise")), this)),
+                                   toQString(controller.localized(u"minimise")), scale, this)),
       keyPad_(new TitleBarButton(TitleBarButton::Sign::keyPad,
                                  toQString(controller.localized(u"show or hide the key pad")),
-                                 this)),
+                                 scale, this)),
       menuButton_(new TitleBarButton(TitleBarButton::Sign::menu,
-                                     toQString(controller.localized(u"menu")), this)) {
-    new TitleBarButton(*controller.views().xyztButton, this);
-    new TitleBarButton(*controller.views().statusButton, this);
+                                     toQString(controller.localized(u"menu")), scale, this)) {
+    new TitleBarButton(*controller.views().xyztButton, scale, this);
+    new TitleBarButton(*controller.views().statusButton, scale, this);
     connect(keyPad_, &QAbstractButton::clicked, this,
             [&controller] { controller.geometry().takeShowKeyPadFrom(); });
     connect(menuButton_, &QAbstractButton::pressed, this,
-            [this, &controller] { pullDownMenu(controller.views().menu, *menuButton_); });
+            [this, &controller] { pullDownMenu(controller.views().menu, scale_, *menuButton_); });
     connect(close_, &QAbstractButton::clicked, this, [this] { this->window()->close(); });
     connect(minimise_, &QAbstractButton::clicked, this,
             [this] { this->window()->showMinimized(); });
 }
 
 void TitleBar::resizeEvent(QResizeEvent* /*event*/) {
-    close_->setGeometry(kEdge, kButtonTop, kButtonSide, kButtonSide);
-    minimise_->setGeometry(kEdge + kStep, kButtonTop, kButtonSide, kButtonSide);
-    keyPad_->setGeometry(kEdge + 2 * kStep, kButtonTop, kButtonSide, kButtonSide);
-    menuButton_->setGeometry(kEdge + 3 * kStep, kButtonTop, kButtonSide, kButtonSide);
+    double left = kEdge;
+    for (TitleBarButton* const button : {close_, minimise_, keyPad_, menuButton_}) {
+        button->setGeometry(
+            scale_.pixels({.x = left, .y = kButtonTop, .width = kButtonSide, .height = kButtonSide},
+                          kButtonTop + kButtonSide + kButtonTop));
+        left += kStep;
+    }
 }
 
 void TitleBar::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setFont(toQFont({.name = u"Lucida Grande", .size = kTitleSize}));
+    painter.setFont(scale_.font({.name = u"Lucida Grande", .size = kTitleSize}));
     painter.setPen(windowColors(palette()).title);
     painter.drawText(rect(), Qt::AlignCenter, toQString(window_.title()));
 }

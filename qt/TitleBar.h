@@ -16,8 +16,8 @@ class TitleBarButton final : public ControlButton {
   public:
     enum class Sign { close, minimise, keyPad, menu };
 
-    TitleBarButton(Sign sign, const QString& name, QWidget* parent);
-    TitleBarButton(NSButton& record, QWidget* parent);
+    TitleBarButton(Sign sign, const QString& name, Scale& scale, QWidget* parent);
+    TitleBarButton(NSButton& record, Scale& scale, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -33,7 +33,7 @@ class TitleBarButton final : public ControlButton {
 // The bar above the content: the title, the buttons, and the place to drag the window by.
 class TitleBar final : public QWidget {
   public:
-    explicit TitleBar(DYXWindowController& controller, QWidget* parent);
+    TitleBar(DYXWindowController& controller, Scale& scale, QWidget* parent);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -44,6 +44,7 @@ class TitleBar final : public QWidget {
 
   private:
     const NSWindow& window_;
+    Scale& scale_;
     TitleBarButton* close_;
     TitleBarButton* minimise_;
     TitleBarButton* keyPad_;

@@ -16,8 +16,9 @@ constexpr int kMappedMilliseconds = 300;
 
 }  // namespace
 
-WindowPlace::WindowPlace(QWidget& topLevel, NSWindow& record, std::function<QRect()> body)
-    : topLevel_(topLevel), record_(record), body_(std::move(body)) {}
+WindowPlace::WindowPlace(QWidget& topLevel, NSWindow& record, const Scale& scale,
+                         std::function<QRect()> body)
+    : topLevel_(topLevel), record_(record), scale_(scale), body_(std::move(body)) {}
 
 // By the place of the content: a frame that the window manager adds isn't ours.
 void WindowPlace::moveTo(const QPoint& place) {
@@ -48,6 +49,11 @@ void WindowPlace::followRecord() {
     if (place != present() && wouldBeInSight(place)) {
         moveTo(place);
     }
+}
+
+void WindowPlace::keepCorner(const QPoint& corner) {
+    excursion_.reset();
+    moveTo(corner - body_().topLeft());
 }
 
 void WindowPlace::tellRecord() {
@@ -96,8 +102,8 @@ QPoint WindowPlace::placeOfRecord() const {
 }
 
 bool WindowPlace::wouldBeInSight(const QPoint& place) const {
-    constexpr int kBar = static_cast<int>(NSWindow::kTitleBarHeight);
-    return isInSight({place + body_().topLeft(), QSize(body_().width(), kBar)});
+    const int bar = scale_.pixels(NSWindow::kTitleBarHeight);
+    return isInSight({place + body_().topLeft(), QSize(body_().width(), bar)});
 }
 
 QPoint WindowPlace::roomFor(const QRect& wanted, const QPoint& home) const {

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "platform/NSWindow.h"
+#include "qt/Scale.h"
 
 namespace talvex {
 
@@ -15,7 +16,8 @@ namespace talvex {
 class WindowPlace {
   public:
     // `body` answers where the body is in the top level.
-    WindowPlace(QWidget& topLevel, NSWindow& record, std::function<QRect()> body);
+    WindowPlace(QWidget& topLevel, NSWindow& record, const Scale& scale,
+                std::function<QRect()> body);
 
     // Before the window is shown: to the record's place, or to the middle of the first screen.
     void takePlaceOfRecord();
@@ -25,6 +27,8 @@ class WindowPlace {
 
     // The record was moved.
     void followRecord();
+    // Puts the body's corner there, as far as it can be seen.
+    void keepCorner(const QPoint& corner);
     // The window was moved, or the screen from which the record counts.
     void tellRecord();
     // A place that is on no screen, or not any more, gives way to the middle of one.
@@ -49,6 +53,7 @@ class WindowPlace {
 
     QWidget& topLevel_;
     NSWindow& record_;
+    const Scale& scale_;
     std::function<QRect()> body_;
     QPoint wanted_;  // where it was last asked to go
     struct Excursion {

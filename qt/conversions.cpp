@@ -26,10 +26,4 @@ QFont toQFont(const NSFont& font) {
     return result;
 }
 
-QRect toQRect(const NSRect& rect, double parentHeight) {
-    const auto whole = [](double value) { return static_cast<int>(std::lround(value)); };
-    return {whole(rect.x), whole(parentHeight - rect.y - rect.height), whole(rect.width),
-            whole(rect.height)};
-}
-
 }  // namespace talvex

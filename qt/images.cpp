@@ -57,56 +57,60 @@ constexpr auto kIcons = std::to_array<Icon>({
     {u"xyztOn", {{{true, 0, 2, 9, 7}, {false, 2, 5, 5, 2}}}},
 });
 
-void paintIcon(QPainter& painter, const QRectF& rect, const Icon& icon) {
-    const QRectF grid(rect.center().x() - kIconGrid / 2.0, rect.center().y() - kIconGrid / 2.0,
-                      kIconGrid, kIconGrid);
+void paintIcon(QPainter& painter, const QRectF& rect, const Scale& scale, const Icon& icon) {
+    const int side = scale.pixels(kIconGrid);
+    const QRect grid(static_cast<int>(rect.center().x() - side / 2.0),
+                     static_cast<int>(rect.center().y() - side / 2.0), side, side);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
     for (const IconRect& part : icon.rects) {
-        const QRectF place(grid.left() + part.x, grid.bottom() - part.y - part.height, part.width,
-                           part.height);
-        painter.fillRect(place & grid,
-                         QColor::fromRgbF(part.isDark ? 0.45F : 0.75F, part.isDark ? 0.45F : 0.75F,
-                                          part.isDark ? 0.45F : 0.75F));
+        const QPoint from(scale.pixels(part.x), scale.pixels(kIconGrid - part.y - part.height));
+        const QPoint to(scale.pixels(part.x + part.width), scale.pixels(kIconGrid - part.y));
+        painter.fillRect(
+            QRect(grid.topLeft() + from, QSize(to.x() - from.x(), to.y() - from.y())) & grid,
+            QColor::fromRgbF(part.isDark ? 0.45F : 0.75F, part.isDark ? 0.45F : 0.75F,
+                             part.isDark ? 0.45F : 0.75F));
     }
     painter.restore();
 }
 
 }  // namespace
 
-void paintImage(QPainter& painter, const QRectF& rect, std::u16string_view name,
-                const QColor& color) {
-    for (const TextImage& image : kTextImages) {
-        if (image.name == name) {
-            painter.setPen(color);
-            paintCentered(
-                painter, rect,
-                simpleTexTitle(image.tex, {.name = u"Lucida Grande", .size = image.size}));
+void paintImage(QPainter& painter, const QRectF& rect, const Scale& scale, const Image& image) {
+    for (const TextImage& text : kTextImages) {
+        if (text.name == image.name) {
+            painter.setPen(image.color);
+            paintCentered(painter, rect, scale,
+                          simpleTexTitle(text.tex, {.name = u"Lucida Grande", .size = text.size}));
         }
     }
     for (const Icon& icon : kIcons) {
-        if (icon.name == name) {
-            paintIcon(painter, rect, icon);
+        if (icon.name == image.name) {
+            paintIcon(painter, rect, scale, icon);
         }
     }
 }
 
-void paintPadlock(QPainter& painter, const QRectF& rect, bool isOpen, const QColor& color) {
-    const QPointF center = rect.center();
-    const QRectF body(center.x() - 5.0, center.y() - 1.0, 10.0, 7.0);
+void paintPadlock(QPainter& painter, const QRectF& rect, const Scale& scale,
+                  const Padlock& padlock) {
+    painter.save();
+    painter.translate(rect.center());
+    painter.scale(scale.factor(), scale.factor());
+    const QRectF body(-5.0, -1.0, 10.0, 7.0);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
+    painter.setBrush(padlock.color);
     painter.drawRoundedRect(body, 1.5, 1.5);
     QPainterPath shackle;
-    const double shift = isOpen ? 5.0 : 0.0;
-    const QRectF arch(center.x() - 3.0 + shift, center.y() - 6.5, 6.0, 6.0);
+    const double shift = padlock.isOpen ? 5.0 : 0.0;
+    const QRectF arch(shift - 3.0, -6.5, 6.0, 6.0);
     shackle.moveTo(arch.left(), body.top());
     shackle.lineTo(arch.left(), arch.center().y());
     shackle.arcTo(arch, 180.0, -180.0);
-    shackle.lineTo(arch.right(), isOpen ? arch.center().y() + 1.5 : body.top());
+    shackle.lineTo(arch.right(), padlock.isOpen ? arch.center().y() + 1.5 : body.top());
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(color, 1.6));
+    painter.setPen(QPen(padlock.color, 1.6));
     painter.drawPath(shackle);
+    painter.restore();
 }
 
 }  // namespace talvex

@@ -2,8 +2,10 @@
 
 #include <QAction>
 #include <QCursor>
+#include <QFontInfo>
 
 #include "qt/conversions.h"
+#include "qt/window_size.h"
 
 namespace talvex {
 namespace {
@@ -26,7 +28,9 @@ void fillMenu(QMenu& menu, const NSMenu& record) {
         }
         const QString title = toQString(item.title);
         if (!item.submenu.items.empty()) {
-            fillMenu(*menu.addMenu(title), item.submenu);
+            QMenu* const submenu = menu.addMenu(title);
+            submenu->setFont(menu.font());
+            fillMenu(*submenu, item.submenu);
             continue;
         }
         QAction* const action = menu.addAction(title);
@@ -45,16 +49,22 @@ void fillMenu(QMenu& menu, const NSMenu& record) {
     }
 }
 
-void popUpMenu(NSMenu& record, const QPoint& place, QWidget& parent) {
+void popUpMenu(NSMenu& record, const QPoint& place, const Scale& scale, QWidget& parent) {
     validateMenu(record);
     auto* const menu = new QMenu(&parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    const double growth = 100.0 * scale.factor() / percentOfDesktop();
+    if (growth > 1.0) {
+        QFont font = menu->font();
+        font.setPointSizeF(QFontInfo(font).pointSizeF() * growth);
+        menu->setFont(font);
+    }
     fillMenu(*menu, record);
     menu->popup(place);
 }
 
-void pullDownMenu(NSMenu& record, QAbstractButton& button) {
-    popUpMenu(record, button.mapToGlobal(button.rect().bottomLeft()), button);
+void pullDownMenu(NSMenu& record, const Scale& scale, QAbstractButton& button) {
+    popUpMenu(record, button.mapToGlobal(button.rect().bottomLeft()), scale, button);
     const auto* const menu = button.findChild<QMenu*>();
     QObject::connect(menu, &QMenu::aboutToHide, &button, [&button] {
         button.setDown(false);

@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "platform/NSMenu.h"
+#include "qt/Scale.h"
 
 namespace talvex {
 
@@ -12,9 +13,10 @@ void fillMenu(QMenu& menu, const NSMenu& record);
 
 // Shows the menu of the record, brought up to date, with its top left corner at a place of the
 // screen. It goes when it closes.
-void popUpMenu(NSMenu& record, const QPoint& place, QWidget& parent);
+// Its text grows with the calculator.
+void popUpMenu(NSMenu& record, const QPoint& place, const Scale& scale, QWidget& parent);
 // The same below a button, which stays down as long as the menu is open.
-void pullDownMenu(NSMenu& record, QAbstractButton& button);
+void pullDownMenu(NSMenu& record, const Scale& scale, QAbstractButton& button);
 
 // Makes the key equivalents of the record's items work wherever the focus is within the window. The
 // record has to outlive the window.

@@ -91,25 +91,25 @@ double widthOf(const std::vector<Run>& runs) {
 }
 
 // Smaller than the fonts say if the text doesn't fit otherwise.
-std::vector<Run> fittingRuns(const std::vector<Piece>& pieces, double width) {
+std::vector<Run> fittingRuns(const std::vector<Piece>& pieces, double factor, double width) {
     constexpr double kSmallest = 0.6;
     std::vector<Run> runs;
     for (double scale = 1.0; runs.empty() || (scale > kSmallest && widthOf(runs) > width);
          scale -= 0.05) {
         runs.clear();
         for (const Piece& piece : pieces) {
-            runs.emplace_back(piece, scale);
+            runs.emplace_back(piece, factor * scale);
         }
     }
     return runs;
 }
 
-void paintPieces(QPainter& painter, const QRectF& rect, const std::vector<Piece>& pieces,
-                 NSTextAlignment alignment) {
+void paintPieces(QPainter& painter, const QRectF& rect, const Scale& scale,
+                 const std::vector<Piece>& pieces, NSTextAlignment alignment) {
     if (pieces.empty()) {
         return;
     }
-    const std::vector<Run> runs = fittingRuns(pieces, rect.width());
+    const std::vector<Run> runs = fittingRuns(pieces, scale.factor(), rect.width());
     const Run& body = *std::max_element(
         runs.begin(), runs.end(),
         [](const Run& left, const Run& right) { return left.size() < right.size(); });
@@ -125,12 +125,14 @@ void paintPieces(QPainter& painter, const QRectF& rect, const std::vector<Piece>
 
 }  // namespace
 
-void paintCentered(QPainter& painter, const QRectF& rect, const NSAttributedString& text) {
-    paintPieces(painter, rect, piecesOf(text), NSTextAlignment::center);
+void paintCentered(QPainter& painter, const QRectF& rect, const Scale& scale,
+                   const NSAttributedString& text) {
+    paintPieces(painter, rect, scale, piecesOf(text), NSTextAlignment::center);
 }
 
-void paintLeft(QPainter& painter, const QRectF& rect, const NSAttributedString& text) {
-    paintPieces(painter, rect, piecesOf(text), NSTextAlignment::left);
+void paintLeft(QPainter& painter, const QRectF& rect, const Scale& scale,
+               const NSAttributedString& text) {
+    paintPieces(painter, rect, scale, piecesOf(text), NSTextAlignment::left);
 }
 
 }  // namespace talvex

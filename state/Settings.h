@@ -36,6 +36,7 @@ struct Settings {
     bool includeDigitGroupingWhenCopying = false;
     bool registerLabelsHidden = false;
     bool autoHideXLabel = true;
+    std::int32_t windowSize = 0;  // percent; 0 as the desktop's text
     bool statusLinesEnabled = true;
     bool animateWindow = true;
 
@@ -107,6 +108,22 @@ inline constexpr auto kFontChoices =
                            {u"Proportional", FontMode::proportional},
                            {u"Monospaced", FontMode::monospaced}});
 
+// The sizes that the window can have, in percent.
+inline constexpr std::int32_t kSmallestSize = 75;
+inline constexpr std::int32_t kLargestSize = 300;
+constexpr std::int32_t boundedSize(std::int32_t percent) {
+    return percent == 0 ? 0 : std::clamp(percent, kSmallestSize, kLargestSize);
+}
+inline constexpr auto kSizeChoices = std::to_array<Choice>({{u"As the System", 0},
+                                                            {u"75 %", kSmallestSize},
+                                                            {u"100 %", 100},
+                                                            {u"125 %", 125},
+                                                            {u"150 %", 150},
+                                                            {u"175 %", 175},
+                                                            {u"200 %", 200},
+                                                            {u"250 %", 250},
+                                                            {u"300 %", kLargestSize}});
+
 inline constexpr auto kSettings = std::to_array<SettingRow>({
     {.saved = saved<&Settings::inputDisplayMode>("inputDisplayMode"),
      .menu = SettingMenu::modes,
@@ -161,6 +178,10 @@ inline constexpr auto kSettings = std::to_array<SettingRow>({
      .menu = SettingMenu::edit,
      .title = u"Copy Digit Groups",
      .refresh = Refresh::nothing},
+    {.saved = saved<&Settings::windowSize>("windowSize").boundedBy(boundedSize),
+     .menu = SettingMenu::view,
+     .title = u"Size",
+     .choices = kSizeChoices},
     {.saved = saved<&Settings::registerLabelsHidden>("registerLabelsHidden"),
      .menu = SettingMenu::view,
      .title = u"Hide Register Labels"},

@@ -48,7 +48,8 @@ class DrawerMotion : public WindowTest {
         views.window.setFrame(placeOfRecord({place, window.bodyRect().size()}));
     }
 
-    CalculatorWindow window{controller};
+    Scale scale;
+    CalculatorWindow window{controller, scale};
 };
 
 TEST_F(DrawerMotion, LeavesNothingOutAfterTwoTogglesAtOnce) {

@@ -72,7 +72,8 @@ class Window : public WindowTest {
         mouse(QEvent::MouseButtonRelease, grip + way, Qt::NoButton);
     }
 
-    CalculatorWindow window{controller};
+    Scale scale;
+    CalculatorWindow window{controller, scale};
 };
 
 TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
@@ -172,7 +173,8 @@ TEST_F(WindowTest, MakesTheHelpWhenItIsFirstShownAndFollowsLinks) {
     platform.resources = TALVEX_RESOURCES;
     HelpController& help = controller.help();
     help.takeToggleHelpWindowFrom();  // it is open at the first start
-    HelpPresenter presenter(controller);
+    Scale scale;
+    HelpPresenter presenter(controller, scale);
     EXPECT_EQ(presenter.widget(), nullptr);
     help.takeToggleHelpWindowFrom();
     ASSERT_NE(presenter.widget(), nullptr);

@@ -138,6 +138,7 @@ void DYXWindowController::refresh() {
     line.setSettings(lineSettingsOf(settings_, system_));
     line.setTextFont(lineFontOf(settings_));
     calculator_->syncDisplays();
+    views_.window.setSize(settings_.windowSize);
     controls_.showSettings(settings_, decimalSeparatorOf(settings_, system_));
     controls_.showLabels(settings_, layout_);
     calculator_->updateDisplay();
