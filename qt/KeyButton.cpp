@@ -10,7 +10,7 @@ namespace talvex {
 namespace {
 
 constexpr double kRadius = 4.0;
-constexpr double kTextMargin = 3.0;
+constexpr double kTextMargin = 2.0;
 
 }  // namespace
 

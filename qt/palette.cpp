@@ -40,6 +40,7 @@ constexpr int kPressStep = 120;
 const KeyColors& WindowColors::key(KeyGroup group) const {
     switch (group) {
         case KeyGroup::digit:
+        case KeyGroup::number:
             return number;
         case KeyGroup::enter:
         case KeyGroup::operation:

@@ -8,8 +8,19 @@
 
 namespace talvex {
 
-// The kinds of keys, which the screen sets apart by colour.
-enum class KeyGroup { digit, enter, operation, function, shift, memory, stack, clear, flat };
+// The kinds of keys, which the screen sets apart by colour, and each of which has one size of type.
+enum class KeyGroup {
+    digit,
+    number,
+    enter,
+    operation,
+    function,
+    shift,
+    memory,
+    stack,
+    clear,
+    flat,
+};
 
 // What a key does when it is clicked: it runs a command, turns a modifier on or off, sets the lock
 // of the output mode, or moves a drawer. All but the first show whether they are on.

@@ -12,24 +12,29 @@
 namespace talvex {
 namespace {
 
-// Words are set smaller than formulas, and single signs larger.
-constexpr double kLongWordSize = 9.0;
-constexpr double kWordSize = 10.0;
-constexpr double kFormulaSize = 11.0;
-constexpr double kSignSize = 13.0;
-
-double titleSize(std::u16string_view title, KeyGroup group) {
-    const auto isBetween = [&title](std::size_t place, char16_t first, char16_t last) {
-        return first <= title[place] && title[place] <= last;
-    };
-    if (group == KeyGroup::flat) {
-        return kLongWordSize;
+// Groups of words are set smaller than those of formulas, and single signs larger.
+double titleSize(KeyGroup group) {
+    constexpr double kSignSize = 13.0;
+    constexpr double kFormulaSize = 11.0;
+    constexpr double kWordSize = 10.0;
+    constexpr double kSmallWordSize = 9.0;
+    switch (group) {
+        case KeyGroup::digit:
+        case KeyGroup::operation:
+            return kSignSize;
+        case KeyGroup::number:
+        case KeyGroup::function:
+            return kFormulaSize;
+        case KeyGroup::shift:
+        case KeyGroup::memory:
+        case KeyGroup::stack:
+        case KeyGroup::clear:
+            return kWordSize;
+        case KeyGroup::enter:
+        case KeyGroup::flat:
+            break;
     }
-    if (title.size() > 2 && isBetween(0, u'A', u'Z') && isBetween(1, u'A', u'Z')) {
-        return title.size() > 3 ? kLongWordSize : kWordSize;
-    }
-    const bool isDigit = group == KeyGroup::digit && title.size() == 1 && isBetween(0, u'0', u'9');
-    return isDigit || group == KeyGroup::operation ? kSignSize : kFormulaSize;
+    return kSmallWordSize;
 }
 
 Panel makePanel(const NSSize& size, std::uint32_t statusMask) {
@@ -85,7 +90,7 @@ std::u16string localizedTitle(std::u16string_view title, const BundlePort& title
 
 Key makeKey(const KeyDescription& description, Platform& platform) {
     const std::u16string& title = description.title;
-    const NSFont font{.name = u"Lucida Grande", .size = titleSize(title, description.group)};
+    const NSFont font{.name = u"Lucida Grande", .size = titleSize(description.group)};
     Key key{.button = {}, .group = description.group, .keyClass = description.keyClass};
     if (description.keyClass == KeyClass::key) {
         key.button = std::make_shared<DYXButton>(description.frame, title, font, platform);
@@ -132,7 +137,7 @@ Panel makeMemoryPanel(Platform& platform) {
                 .command = registerCommand(number),
                 .title = u"M_{" + digits + u"}",
                 .hint = std::move(hint),
-                .group = KeyGroup::digit},
+                .group = KeyGroup::number},
                NSViewMinXMargin, platform);
     }
     return panel;
@@ -147,7 +152,7 @@ Panel makeConstantsPanel(Platform& platform) {
                 .command = row.command,
                 .title = std::u16string(row.title),
                 .hint = constantHint(row, platform),
-                .group = KeyGroup::digit},
+                .group = KeyGroup::number},
                NSViewMaxXMargin, platform);
         panel.keys.back().button->setAccessibilityLabel(platform.localizedString(row.name));
     }

@@ -34,7 +34,7 @@ constexpr auto kKeys = std::to_array<KeyRow>({
     {command("data", "CLR "), u"CLR", u"clear X", clear, 5, 1},
     {command("data", "CLRG"), u"CLST", u"clear the stack", clear, 6, 1},
     {command("data", "CLAL"), u"CLALL", u"clear the stack and all memory registers", clear, 7, 1},
-    {command("cons", "PI  "), u"\u03C0", u"pi", digit, 8, 1},
+    {command("cons", "PI  "), u"\u03C0", u"pi", number, 8, 1},
     {Comand{}, u"", u"output mode independent of the input mode", function, 9, 1, 1, lock},
 
     {command("unit", "GCSC"), u"csc", u"cosecant", function, 0, 2},
@@ -54,7 +54,7 @@ constexpr auto kKeys = std::to_array<KeyRow>({
     {command("unit", "INV "), u"1/x", u"reciprocal", function, 2, 3},
     {command("memo", "STO*"), u"STO\u00D7", u"multiply a register by X", memory, 3, 3, 1, modifier},
     {command("stac", "ROLU"), u"R\u2191", u"roll the stack up", stack, 4, 3},
-    {command("data", "EEX "), u"EEX", u"enter exponent", digit, 5, 3},
+    {command("data", "EEX "), u"EEX", u"enter exponent", number, 5, 3},
     {command("data", "N004"), u"4", u"4", digit, 6, 3},
     {command("data", "N005"), u"5", u"5", digit, 7, 3},
     {command("data", "N006"), u"6", u"6", digit, 8, 3},
@@ -78,7 +78,7 @@ constexpr auto kKeys = std::to_array<KeyRow>({
     {command("stac", "X<>Y"), u"x\u21C4y", u"exchange X and Y", stack, 4, 5},
     {command("data", "N000"), u"0", u"0", digit, 6, 5},
     {command("data", ".   "), u"", u"decimal point", digit, 7, 5},
-    {command("data", "CHS "), u"+/\u2212", u"change sign", digit, 8, 5},
+    {command("data", "CHS "), u"+/\u2212", u"change sign", number, 8, 5},
     {command("bina", "+   "), u"+", u"add X to Y", operation, 9, 5},
 });
 
