@@ -4,6 +4,7 @@
 
 #include "qt/QtGraphicsContext.h"
 #include "qt/conversions.h"
+#include "qt/palette.h"
 
 namespace talvex {
 
@@ -41,6 +42,7 @@ void DisplayWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QtGraphicsContext context(painter, scale_, record_.frame().height);
     record_.drawRect(context);
+    painter.fillRect(rect(), windowColors(palette()).displayShade);
 }
 
 }  // namespace talvex

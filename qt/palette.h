@@ -21,6 +21,7 @@ struct WindowColors {
     QColor title;
     QColor focusRing;
     QColor drawer;
+    QColor displayShade;  // laid over the pale display
     KeyColors number;
     KeyColors function;
     KeyColors operation;

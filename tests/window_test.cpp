@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QPainter>
 #include <QTest>
 #include <QWindow>
 #include <algorithm>
@@ -212,11 +213,14 @@ void expectContrast(const QColor& one, const QColor& other, double least = 4.5) 
 }
 
 TEST_F(WindowTest, HasColorsThatStandOutFromTheirGround) {
-    const QColor display = toQColor(views.displayView->color());
-    expectContrast(toQColor(NSColor::black()), display);
-    expectContrast(toQColor(DYXOutputDisplay::errorColor()), display);
     for (const QColor ground : {Qt::black, Qt::white}) {
         const WindowColors& colors = windowColors(QPalette(ground));
+        QImage display(1, 1, QImage::Format_RGB32);
+        display.fill(toQColor(views.displayView->color()));
+        QPainter(&display).fillRect(display.rect(), colors.displayShade);
+        for (const NSColor& text : {NSColor::black(), DYXOutputDisplay::errorColor()}) {
+            expectContrast(toQColor(text), display.pixelColor(0, 0));
+        }
         for (const KeyColors& key : {colors.number, colors.function, colors.operation, colors.shift,
                                      colors.flat, colors.lit}) {
             for (const QColor& face : {key.face, hoverFace(key.face), pressedFace(key.face)}) {
