@@ -158,10 +158,15 @@ void StatusWidget::paintEvent(QPaintEvent* /*event*/) {
     const NSView& neighbour = views_.outputModePopUp->isHidden()
                                   ? static_cast<NSView&>(*views_.inputModePopUp)
                                   : *views_.outputModePopUp;
-    QRect room = rect();
-    room.setLeft(scale_.pixels(rightEdge(neighbour)) - x());
+    // As high as the control beside it, and so on its baseline.
+    const QRect control = scale_.pixels(neighbour.frame(), neighbour.superview()->frame().height);
+    const int padding = scale_.pixels(kPadding);
+    const QRect room(QPoint(control.right() + 1 + padding, control.top()) - pos(),
+                     QPoint(width() - 1 - padding, control.bottom() - y()));
     QPainter painter(this);
-    paintText(painter, room, scale_, {.field = record_, .text = text});
+    painter.setFont(fittingFont(record_, scale_, text, room.width()));
+    painter.setPen(toQColor(record_.textColor()));
+    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, text);
 }
 
 }  // namespace talvex
