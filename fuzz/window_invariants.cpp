@@ -3,7 +3,7 @@
 #include <QAbstractButton>
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <cstdlib>
 
 #include "qt/KeyButton.h"
 #include "ui/window_layout.h"
@@ -12,26 +12,30 @@ namespace talvex {
 namespace {
 
 // Open to its full depth and as long as its content, or closed and out of sight.
-bool isAtRest(const DrawerWidget& drawer) {
+bool isAtRest(const DrawerWidget& drawer, const Scale& scale) {
     const NSDrawer& record = drawer.record();
     const QSize shown = drawer.visibleRect().size();
     if (record.state() != NSDrawerOpenState) {
         return record.state() == NSDrawerClosedState && shown.isEmpty() && drawer.isHidden();
     }
     const NSSize& most = record.maxContentSize();
-    const NSSize& content = record.contentSize();
+    const QSize content = scale.pixels(record.contentSize());
+    const int border = scale.pixels(NSDrawer::kOuterBorder);
+    // Its ends are rounded one by one.
+    const auto isAbout = [](int length, int expected) { return std::abs(length - expected) <= 2; };
     return record.isLevel()
-               ? shown.height() == std::lround(NSDrawer::kOuterBorder + content.height) &&
-                     drawer.width() == std::lround(NSDrawer::kEnds + most.width)
-               : shown.width() == std::lround(NSDrawer::kOuterBorder + content.width) &&
-                     drawer.height() == std::lround(NSDrawer::kEnds + most.height);
+               ? shown.height() == border + content.height() &&
+                     isAbout(drawer.width(), scale.pixels(NSDrawer::kEnds + most.width))
+               : shown.width() == border + content.width() &&
+                     isAbout(drawer.height(), scale.pixels(NSDrawer::kEnds + most.height));
 }
 
 bool areDrawersAtRest(WindowSession& session) {
     const auto drawers = drawersOf(session.window);
     return drawers.size() == kDrawerNames.size() &&
-           std::all_of(drawers.begin(), drawers.end(),
-                       [](const DrawerWidget* drawer) { return isAtRest(*drawer); });
+           std::all_of(drawers.begin(), drawers.end(), [&](const DrawerWidget* drawer) {
+               return isAtRest(*drawer, session.scale);
+           });
 }
 
 bool isNoDrawerOutWithoutKeyPad(WindowSession& session) {
@@ -41,15 +45,13 @@ bool isNoDrawerOutWithoutKeyPad(WindowSession& session) {
                        [](const DrawerWidget* drawer) { return drawer->isHidden(); });
 }
 
-QSize sizeOf(const NSRect& frame) {
-    return {static_cast<int>(frame.width), static_cast<int>(frame.height)};
-}
-
 bool hasSizeOfLayout(WindowSession& session) {
     const NSRect frame =
         NSWindow::frameRectForContentRect(contentFrame(session.controller.layout()));
-    return session.window.bodyRect().size() == sizeOf(frame) &&
-           sizeOf(session.controller.views().window.frame()) == sizeOf(frame);
+    const NSRect& record = session.controller.views().window.frame();
+    return record.width == frame.width && record.height == frame.height &&
+           session.window.bodyRect().size() ==
+               session.scale.pixels(NSSize{frame.width, frame.height});
 }
 
 bool isEverythingInTheCanvas(WindowSession& session) {

@@ -15,6 +15,14 @@ ControlButton::ControlButton(NSView* record, Scale& scale, QWidget* parent)
     setMouseTracking(true);
 }
 
+QRect ControlButton::face() const {
+    if (record_ == nullptr) {
+        return rect();
+    }
+    const QSize size = scale_.pixels(NSSize{record_->frame().width, record_->frame().height});
+    return {QPoint(width() - size.width(), height() - size.height()) / 2, size};
+}
+
 void ControlButton::paintFocusRing(QPainter& painter, double radius) const {
     if (!hasFocus()) {
         return;
@@ -24,13 +32,14 @@ void ControlButton::paintFocusRing(QPainter& painter, double radius) const {
     painter.setBrush(Qt::NoBrush);
     const double half = width / 2.0;
     const double corner = scale_.exactly(radius);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), corner, corner);
+    painter.drawRoundedRect(QRectF(face()).adjusted(half, half, -half, -half), corner, corner);
 }
 
 void ControlButton::tellPointer(const QPointF& place) {
     if (record_ != nullptr) {
+        const QPointF inside = place - face().topLeft();
         record_->pointerMoved(
-            NSPoint{scale_.points(place.x()), scale_.points(height() - 1.0 - place.y())});
+            NSPoint{scale_.points(inside.x()), scale_.points(face().height() - 1.0 - inside.y())});
     }
 }
 

@@ -17,6 +17,11 @@ class ControlButton : public QAbstractButton {
     ControlButton(NSView* record, Scale& scale, QWidget* parent);
 
   protected:
+    // Enough for a finger at half as large again.
+    static constexpr double kLeastSide = 16.0;
+
+    // What is painted; a small button can be pressed around it, too.
+    [[nodiscard]] QRect face() const;
     [[nodiscard]] Scale& scale() const { return scale_; }
     // The radius in points.
     void paintFocusRing(QPainter& painter, double radius) const;

@@ -19,7 +19,8 @@ KeyButton::KeyButton(const Key& key, Scale& scale, QWidget* parent)
       record_(*key.button),
       group_(key.group),
       keyClass_(key.keyClass),
-      observer_(*this, scale, record_, [this] { setChecked(record_.state() != 0); }) {
+      observer_(*this, scale, record_, [this] { setChecked(record_.state() != 0); },
+                {.leastSide = kLeastSide}) {
     setCheckable(isModifier());
     setChecked(record_.state() != 0);
     connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
@@ -35,19 +36,19 @@ void KeyButton::paintEvent(QPaintEvent* /*event*/) {
     const bool isLit = isModifier() && record_.state() != 0;
     const WindowColors& colors = windowColors(palette());
     const KeyColors& key = isLit ? colors.litKey(group_) : colors.key(group_);
-    const QColor face = isDown()       ? pressedFace(key.face)
-                        : underMouse() ? hoverFace(key.face)
-                                       : key.face;
+    const QColor ground = isDown()       ? pressedFace(key.face)
+                          : underMouse() ? hoverFace(key.face)
+                                         : key.face;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double line = scale().line();
-    painter.setPen(QPen(face.darker(isDown() ? 125 : 118), line));
-    painter.setBrush(face);
+    painter.setPen(QPen(ground.darker(isDown() ? 125 : 118), line));
+    painter.setBrush(ground);
     const double half = line / 2.0;
     const double radius = scale().exactly(kRadius);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half), radius, radius);
+    painter.drawRoundedRect(QRectF(face()).adjusted(half, half, -half, -half), radius, radius);
     const double margin = scale().exactly(kTextMargin);
-    const QRectF inside = QRectF(rect()).adjusted(margin, 0.0, -margin, 0.0);
+    const QRectF inside = QRectF(face()).adjusted(margin, 0.0, -margin, 0.0);
     paintTitle(painter, isDown() ? inside.translated(0.0, line) : inside, key.text);
     paintFocusRing(painter, kRadius);
 }

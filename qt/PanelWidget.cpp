@@ -17,7 +17,10 @@ constexpr double kPadding = 2.0;
 
 StatusFieldWidget::StatusFieldWidget(NSTextField& record, Scale& scale, QWidget* parent,
                                      const NSView* within)
-    : QLabel(parent), record_(record), scale_(scale), observer_(*this, scale, record, {}, within) {}
+    : QLabel(parent),
+      record_(record),
+      scale_(scale),
+      observer_(*this, scale, record, {}, {.within = within}) {}
 
 void StatusFieldWidget::paintEvent(QPaintEvent* /*event*/) {
     const NSAttributedString& text = record_.attributedStringValue();

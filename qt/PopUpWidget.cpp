@@ -27,7 +27,9 @@ void paintArrow(QPainter& painter, const QRectF& room, const Scale& scale) {
 }  // namespace
 
 PopUpWidget::PopUpWidget(NSPopUpButton& record, Scale& scale, QWidget* parent)
-    : ControlButton(&record, scale, parent), record_(record), observer_(*this, scale, record) {
+    : ControlButton(&record, scale, parent),
+      record_(record),
+      observer_(*this, scale, record, {}, {.leastSide = kLeastSide}) {
     connect(this, &QAbstractButton::pressed, this, &PopUpWidget::showMenu);
 }
 
@@ -41,11 +43,11 @@ void PopUpWidget::paintEvent(QPaintEvent* /*event*/) {
     const double radius = scale().exactly(kRadius);
     painter.setPen(QPen(kOutline, line));
     painter.setBrush(isDown() ? kDown : underMouse() ? kHover : QColor(Qt::transparent));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, -half - scale().pixels(1.0)),
+    painter.drawRoundedRect(QRectF(face()).adjusted(half, half, -half, -half - scale().pixels(1.0)),
                             radius, radius);
     const double margin = scale().exactly(2.0);
     const double arrowRoom = scale().exactly(kArrowRoom);
-    const QRectF inside = QRectF(rect()).adjusted(margin, 0.0, -margin, 0.0);
+    const QRectF inside = QRectF(face()).adjusted(margin, 0.0, -margin, 0.0);
     painter.setFont(scale().font(record_.font()));
     painter.setPen(kText);
     painter.drawText(inside.adjusted(0.0, 0.0, -arrowRoom, 0.0),

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <utility>
 
 #include "platform/NSView.h"
 #include "qt/Scale.h"
@@ -13,10 +14,18 @@ namespace talvex {
 // paints the rest from the record whenever this asks for it.
 class RecordObserver final : public NSViewObserver, public ScaleFollower {
   public:
-    // `changed` runs ahead of each repaint, for what the widget keeps besides. The widget's parent
-    // stands for the record's superview, or else for the view `within` that it is in.
+    struct Place {
+        // The view that the widget's parent stands for, if not for the record's superview.
+        const NSView* within = nullptr;
+        // In points, whatever the record has: the widget is larger around the same centre.
+        double leastSide = 0.0;
+    };
+    // `changed` runs ahead of each repaint, for what the widget keeps besides.
+    RecordObserver(QWidget& widget, Scale& scale, NSView& record, std::function<void()> changed,
+                   const Place& place);
     RecordObserver(QWidget& widget, Scale& scale, NSView& record,
-                   std::function<void()> changed = {}, const NSView* within = nullptr);
+                   std::function<void()> changed = {})
+        : RecordObserver(widget, scale, record, std::move(changed), Place{}) {}
     RecordObserver(const RecordObserver&) = delete;
     RecordObserver& operator=(const RecordObserver&) = delete;
     ~RecordObserver();
@@ -29,7 +38,7 @@ class RecordObserver final : public NSViewObserver, public ScaleFollower {
     Scale& scale_;
     NSView& record_;
     std::function<void()> changed_;
-    const NSView* within_;
+    Place place_;
 };
 
 }  // namespace talvex

@@ -28,7 +28,8 @@ TitleBarButton::TitleBarButton(Sign sign, const QString& name, Scale& scale, QWi
 
 TitleBarButton::TitleBarButton(NSButton& record, Scale& scale, QWidget* parent)
     : ControlButton(&record, scale, parent), record_(&record) {
-    observer_.emplace(*this, scale, record);
+    observer_.emplace(*this, scale, record, nullptr,
+                      RecordObserver::Place{.leastSide = kLeastSide});
     connect(this, &QAbstractButton::clicked, this, [this] { record_->performClick(); });
 }
 
@@ -40,12 +41,12 @@ void TitleBarButton::paintEvent(QPaintEvent* /*event*/) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(isDown() ? pressedFace(colors.function.face) : colors.function.face);
         const double radius = scale().exactly(kHoverRadius);
-        painter.drawRoundedRect(QRectF(rect()), radius, radius);
+        painter.drawRoundedRect(QRectF(face()), radius, radius);
     }
     if (sign_) {
         paintSign(painter, colors.title);
     } else {
-        paintImage(painter, rect(), scale(), {.name = record_->image(), .color = colors.title});
+        paintImage(painter, face(), scale(), {.name = record_->image(), .color = colors.title});
     }
     paintFocusRing(painter, kHoverRadius);
 }
@@ -53,7 +54,7 @@ void TitleBarButton::paintEvent(QPaintEvent* /*event*/) {
 void TitleBarButton::paintSign(QPainter& painter, const QColor& color) const {
     painter.setPen(QPen(color, scale().exactly(1.4), Qt::SolidLine, Qt::RoundCap));
     const double margin = scale().pixels(4.0) + 0.5;
-    const QRectF box = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+    const QRectF box = QRectF(face()).adjusted(margin, margin, -margin, -margin);
     switch (*sign_) {
         case Sign::close:
             painter.drawLine(box.topLeft(), box.bottomRight());

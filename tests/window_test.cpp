@@ -16,7 +16,9 @@
 #include "qt/CalculatorWindow.h"
 #include "qt/DrawerWidget.h"
 #include "qt/HelpWindow.h"
+#include "qt/KeyButton.h"
 #include "qt/QtPlatform.h"
+#include "qt/SizeGrip.h"
 #include "qt/conversions.h"
 #include "qt/palette.h"
 #include "window_fixture.h"
@@ -61,9 +63,10 @@ class Window : public WindowTest {
         });
     }
     void drag(QWidget& widget, const QPoint& grip, const QPoint& way) {
+        const QPoint corner = window.mapToGlobal(QPoint());  // before it moves
         const auto mouse = [&](QEvent::Type type, const QPoint& place, Qt::MouseButtons buttons) {
             platform.mouseButtons = buttons;
-            QMouseEvent event(type, widget.mapFrom(&window, place), window.mapToGlobal(place),
+            QMouseEvent event(type, widget.mapFromGlobal(corner + place), corner + place,
                               Qt::LeftButton, buttons, {});
             QApplication::sendEvent(&widget, &event);
         };
@@ -76,6 +79,31 @@ class Window : public WindowTest {
     Scale scale;
     CalculatorWindow window{controller, scale};
 };
+
+TEST_F(Window, GrowsAsAWholeAndIsLargeEnoughForAFinger) {
+    for (const DrawerName name : kDrawerNames) {
+        open(name);
+    }
+    choose<&Settings::windowSize>(150);
+    for (const auto* const button : window.findChildren<QAbstractButton*>()) {
+        EXPECT_GE(button->height(), 24) << button->accessibleName().toStdString();
+        EXPECT_GE(button->width(), 24) << button->accessibleName().toStdString();
+    }
+    const NSRect frame = padKey(u"modiHYP ").frame();
+    const auto* const key = find<KeyButton>(
+        [&](const KeyButton& each) { return &each.record() == &padKey(u"modiHYP "); });
+    EXPECT_EQ(key->size(), scale.pixels(NSSize{frame.width, frame.height}));
+    const QRect body = window.bodyRect();
+    EXPECT_EQ(body.size(), QSize(606, 350));
+    auto* const grip = find<SizeGrip>([](const SizeGrip&) { return true; });
+    drag(*grip, body.bottomRight() - QPoint(2, 2), {60, 35});
+    EXPECT_EQ(controller.settings().windowSize, 165);
+    EXPECT_EQ(window.bodyRect().size(), QSize(667, 384));
+    choose<&Settings::windowSize>(300);  // the screen has 800 by 800
+    EXPECT_EQ(window.bodyRect().width(), 800);
+    choose<&Settings::windowSize>(1);
+    EXPECT_EQ(window.bodyRect().width(), 303);
+}
 
 TEST_F(Window, LetsTheMouseDragEveryDrawerToRest) {
     constexpr std::array<QPoint, 4> kOutward{{{-1, 0}, {0, 1}, {1, 0}, {0, -1}}};  // of the edges
