@@ -37,11 +37,12 @@ double titleSize(KeyGroup group) {
     return kSmallWordSize;
 }
 
-Panel makePanel(const NSSize& size, std::uint32_t statusMask) {
+Panel makePanel(const KeyGrid& grid, std::uint32_t statusMask) {
+    const NSSize size = grid.size();
     Panel panel{.view = std::make_shared<DYXStatusLineView>(
                     NSRect{.width = size.width, .height = size.height}),
                 .keys = {}};
-    addStatusField(*panel.view, *panel.view, statusFrame(size.width), statusMask);
+    addStatusField(*panel.view, *panel.view, statusFrame(grid), statusMask);
     return panel;
 }
 
@@ -116,7 +117,7 @@ void ConversionPanel::setKeyAction(const KeyAction& action) const {
 
 Panel makeMemoryPanel(Platform& platform) {
     const KeyGrid grid = memoryGrid(memoryKeyRows());
-    Panel panel = makePanel(grid.size(), NSViewWidthSizable);
+    Panel panel = makePanel(grid, NSViewWidthSizable);
     for (const MemoryKeyRow& row : memoryKeyRows()) {
         addKey(panel,
                {.frame = memoryKeyFrame(grid, row),
@@ -145,7 +146,7 @@ Panel makeMemoryPanel(Platform& platform) {
 
 Panel makeConstantsPanel(Platform& platform) {
     const KeyGrid grid = constantsGrid(constantKeyRows().size());
-    Panel panel = makePanel(grid.size(), NSViewWidthSizable);
+    Panel panel = makePanel(grid, NSViewWidthSizable);
     for (const ConstantKeyRow& row : constantKeyRows()) {
         addKey(panel,
                {.frame = grid.frameByColumns(panel.keys.size()),
@@ -161,7 +162,7 @@ Panel makeConstantsPanel(Platform& platform) {
 
 Panel makeFunctionsPanel(Platform& platform) {
     const KeyGrid grid = functionsGrid(functionKeyRows());
-    Panel panel = makePanel(grid.size(), NSViewNotSizable);
+    Panel panel = makePanel(grid, NSViewNotSizable);
     for (const FunctionKeyRow& row : functionKeyRows()) {
         addKey(panel,
                {.frame = functionKeyFrame(grid, row),
@@ -208,7 +209,7 @@ ConversionPanel makeConversionPanel(Platform& platform, const HotKeys& hotKeys) 
     panel.tabView = std::make_shared<DYXTabView>(tabFrame(page), std::move(items), hotKeys);
     panel.tabView->setAutoresizingMask(NSViewMinYMargin);
     panel.view->addSubview(panel.tabView);
-    addStatusField(*panel.view, *panel.tabView, statusFrame(size.width), NSViewMinYMargin);
+    addStatusField(*panel.view, *panel.tabView, conversionStatusFrame(), NSViewMinYMargin);
     panel.tabView->setNumberOfRows(kTabRows);
     return panel;
 }

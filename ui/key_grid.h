@@ -24,6 +24,7 @@ struct Lanes {
     std::size_t count = 0;
     double size = 0.0;                   // of each lane
     std::span<const double> ownSizes{};  // of the first ones, if they have sizes of their own
+    double beyond = 0.0;                 // the room beyond the last one
 
     // The near edge of a lane, which is the far edge of the one before.
     [[nodiscard]] constexpr double edge(std::size_t lane) const {
@@ -34,11 +35,14 @@ struct Lanes {
         return edge;
     }
 
+    // The start, the lanes and the room beyond.
+    [[nodiscard]] constexpr double length() const { return edge(count) + beyond; }
+
     // Where a drawer that is drawn out in part shows whole lanes: from the largest size down.
     [[nodiscard]] std::vector<double> restingPlaces() const {
         std::vector<double> places;
         for (std::size_t lane = count; lane-- > 1;) {
-            places.push_back(edge(lane));
+            places.push_back(edge(lane) + beyond);
         }
         return places;
     }
@@ -53,12 +57,9 @@ struct KeyPlace {
 struct KeyGrid {
     Lanes columns;
     Lanes rows;
-    double right = 0.0;  // the room beyond the gap of the last column
-    double top = 0.0;    // and of the last row
 
     [[nodiscard]] constexpr NSSize size() const {
-        return {.width = columns.edge(columns.count) + right,
-                .height = rows.edge(rows.count) + top};
+        return {.width = columns.length(), .height = rows.length()};
     }
     [[nodiscard]] constexpr std::size_t capacity() const { return columns.count * rows.count; }
 

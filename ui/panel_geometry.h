@@ -16,18 +16,17 @@
 // sizes of columns and rows and from the number of keys.
 namespace talvex {
 
+// Beside what a drawer has around its content, these make the margins even.
 inline constexpr double kPanelMargin = 5.0;
+inline constexpr double kMarginAtBody = 9.0;
+inline constexpr double kMarginAtEdge = kMarginAtBody - NSDrawer::kOuterBorder;
 inline constexpr double kKeyPitch = kKeyHeight + kKeyGap;
-// The keys stand above the status field.
-inline constexpr double kStatusBottom = 2.0;
-inline constexpr double kStatusHeight = 18.0;
-inline constexpr double kPanelKeysBottom = 23.0;
+// The keys stand right above the status field.
+inline constexpr double kPanelKeysBottom = 14.0;
 
-constexpr NSRect statusFrame(double panelWidth) {
-    return {.x = kPanelMargin,
-            .y = kStatusBottom,
-            .width = panelWidth - 2.0 * kPanelMargin,
-            .height = kStatusHeight};
+constexpr NSRect statusFrame(const KeyGrid& grid) {
+    const double margin = grid.columns.start;
+    return {.x = margin, .width = grid.size().width - 2.0 * margin, .height = grid.rows.start};
 }
 
 // The drawers at the sides hang beside the body, which is as high as this.
@@ -39,13 +38,15 @@ inline constexpr double kConstantColumn = 42.0;
 inline constexpr std::array kFirstConstantColumns{42.0, 44.0, 42.0, 49.0, 47.0};
 
 constexpr KeyGrid constantsGrid(std::size_t keys) {
-    return {.columns = {.start = kPanelMargin,
+    return {.columns = {.start = kMarginAtEdge,
                         .count = quotientRoundedUp(keys, kConstantRows),
                         .size = kConstantColumn,
-                        .ownSizes = kFirstConstantColumns},
-            .rows = {.start = kPanelKeysBottom, .count = kConstantRows, .size = kKeyPitch},
-            .right = 0.0,
-            .top = kPanelMargin - kKeyGap};
+                        .ownSizes = kFirstConstantColumns,
+                        .beyond = kPanelMargin - kMarginAtEdge},
+            .rows = {.start = kPanelKeysBottom,
+                     .count = kConstantRows,
+                     .size = kKeyPitch,
+                     .beyond = kPanelMargin - kKeyGap}};
 }
 
 // The memory: keys by their places in the table, and below them the registers.
@@ -61,13 +62,15 @@ constexpr std::size_t rowsAboveRegisters(std::span<const MemoryKeyRow> keys) {
 }
 
 constexpr KeyGrid memoryGrid(std::span<const MemoryKeyRow> keys) {
-    return {.columns = {.start = kPanelMargin, .count = kMemoryColumns, .size = kMemoryColumn},
+    return {.columns = {.start = kMarginAtBody,
+                        .count = kMemoryColumns,
+                        .size = kMemoryColumn,
+                        .beyond = kMarginAtEdge - kKeyGap},
             .rows = {.start = kPanelKeysBottom,
                      .count = rowsAboveRegisters(keys) +
                               quotientRoundedUp(kRegisterKeys, kMemoryColumns),
-                     .size = kKeyPitch},
-            .right = kPanelMargin - kKeyGap,
-            .top = kPanelMargin - kKeyGap};
+                     .size = kKeyPitch,
+                     .beyond = kPanelMargin - kKeyGap}};
 }
 
 constexpr NSRect memoryKeyFrame(const KeyGrid& grid, const MemoryKeyRow& key) {
@@ -102,13 +105,16 @@ constexpr KeyGrid functionsGrid(std::span<const FunctionKeyRow> keys) {
     }
     const std::size_t wholePoints = static_cast<std::size_t>(kLevelColumns) / columns;
     const auto column = static_cast<double>(wholePoints);
-    return {.columns = {.start = kLevelMargin, .count = columns, .size = column},
-            .rows = {.start = kPanelKeysBottom,
-                     .count = rows,
-                     .size = kFunctionRow,
-                     .ownSizes = kFirstFunctionRows},
-            .right = kLevelWidth - kLevelMargin - static_cast<double>(columns) * column,
-            .top = 0.0};
+    return {
+        .columns = {.start = kLevelMargin,
+                    .count = columns,
+                    .size = column,
+                    .beyond = kLevelWidth - kLevelMargin - static_cast<double>(columns) * column},
+        .rows = {.start = kPanelKeysBottom,
+                 .count = rows,
+                 .size = kFunctionRow,
+                 .ownSizes = kFirstFunctionRows,
+                 .beyond = kMarginAtBody}};
 }
 
 constexpr NSRect functionKeyFrame(const KeyGrid& grid, const FunctionKeyRow& key) {
@@ -125,12 +131,14 @@ constexpr KeyGrid unitsGrid(std::span<const UnitPage> pages) {
     for (const UnitPage& page : pages) {
         keys = std::max(keys, page.units.size());
     }
-    return {.columns = {.start = kPanelMargin, .count = kUnitColumns, .size = kUnitColumn},
+    return {.columns = {.start = kPanelMargin,
+                        .count = kUnitColumns,
+                        .size = kUnitColumn,
+                        .beyond = kPanelMargin - kKeyGap},
             .rows = {.start = kPanelMargin,
                      .count = quotientRoundedUp(keys, kUnitColumns),
-                     .size = kKeyPitch},
-            .right = kPanelMargin - kKeyGap,
-            .top = kPanelMargin - kKeyGap};
+                     .size = kKeyPitch,
+                     .beyond = kPanelMargin - kKeyGap}};
 }
 
 constexpr NSRect tabFrame(const NSSize& page) {
@@ -138,6 +146,10 @@ constexpr NSRect tabFrame(const NSSize& page) {
             .y = kTabsBottom,
             .width = page.width,
             .height = page.height};
+}
+
+constexpr NSRect conversionStatusFrame() {
+    return {.x = kPanelMargin, .width = kLevelWidth - 2.0 * kPanelMargin, .height = kTabsBottom};
 }
 
 constexpr NSSize conversionPanelSize(const NSSize& page) {
