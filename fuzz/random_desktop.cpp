@@ -37,7 +37,7 @@ void placeByDesktop(RandomUser& user) {
     const QPoint place(user.below(1500) - 750, user.below(1500) - 750);
     const QSize size(1 + user.below(largest), 1 + user.below(largest));
     const std::array<QRect, 3> frames{QRect(place, window.size()), QRect(place, size),
-                                      QRect(window.position(), user.session->window.minimumSize())};
+                                      QRect(window.position(), window.minimumSize())};
     window.setGeometry(user.anyOf(frames));
 }
 

@@ -1,6 +1,7 @@
 #include "window_invariants.h"
 
 #include <QAbstractButton>
+#include <QWindow>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -56,7 +57,19 @@ bool hasSizeOfLayout(WindowSession& session) {
 
 bool isEverythingInTheCanvas(WindowSession& session) {
     const QRect all = session.window.visibleRegion().boundingRect();
-    return QRect(QPoint(), session.window.minimumSize()).contains(all);
+    return QRect(QPoint(), session.window.windowHandle()->minimumSize()).contains(all);
+}
+
+bool isCanvasForDrawersOnly(WindowSession& session) {
+    const bool isCanvas = !session.window.bodyRect().topLeft().isNull();
+    return isCanvas != session.controller.drawers().areClosed();
+}
+
+// Nothing is cut away from a window that has no more than is to be seen.
+bool isMaskWhatIsSeen(WindowSession& session) {
+    const QRegion seen = session.window.visibleRegion();
+    return session.window.mask() == seen ||
+           (session.window.mask().isEmpty() && seen == session.window.rect());
 }
 
 bool doKeysStandAsRecorded(WindowSession& session) {
@@ -90,10 +103,8 @@ constexpr std::array kInvariants = std::to_array<Invariant>({
     {"no drawer is waited for",
      [](WindowSession& session) { return !session.controller.drawers().keyPadWaits(); }},
     {"body and record have the size of the layout", hasSizeOfLayout},
-    {"the mask is what is to be seen",
-     [](WindowSession& session) {
-         return session.window.mask() == session.window.visibleRegion();
-     }},
+    {"the mask is what is to be seen", isMaskWhatIsSeen},
+    {"the top level is a canvas as long as a drawer is out", isCanvasForDrawersOnly},
     {"body and drawers lie in the canvas", isEverythingInTheCanvas},
     {"keys show and hide as their records do", doKeysStandAsRecorded},
     {"the status field shows with its strip", isStatusFieldShownWithItsStrip},

@@ -13,7 +13,6 @@
 #include "qt/KeyButton.h"
 #include "qt/PanelWidget.h"
 #include "qt/SizeGrip.h"
-#include "qt/frame_extents.h"
 #include "qt/menus.h"
 #include "qt/screen_places.h"
 #include "qt/window_size.h"
@@ -46,6 +45,12 @@ NSSize sizeOfBody(const WindowLayout& layout) {
 NSSize largestBody() { return sizeOfBody({.displayViewMode = 1, .showStatusLine = true}); }
 NSSize smallestBody() { return sizeOfBody({.keyPadHidden = true}); }
 
+TopLevel::Canvas canvasFor(const Drawers& drawers, const Scale& scale) {
+    return {.room = roomFor(drawers, scale),
+            .smallestBody = scale.pixels(smallestBody()),
+            .largestBody = scale.pixels(largestBody())};
+}
+
 }  // namespace
 
 CalculatorWindow::CalculatorWindow(DYXWindowController& controller, Scale& scale)
@@ -53,7 +58,13 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller, Scale& scale
       controller_(controller),
       scale_(scale),
       helpOn_(controller.localized(u"Help on")),
-      place_(*this, controller.views().window, scale, [this] { return bodyRect(); }),
+      topLevel_(*this, canvasFor(controller.drawers(), scale),
+                {.body = [this] { return bodyRect(); },
+                 .bodyAtRest = [this] { return body_->restingPlace(); },
+                 .placeWithoutDrawers = [this] { return place_.home(); },
+                 .didTakeShape = [this] { putBody(); },
+                 .didArrive = [this] { didTakeShape(); }}),
+      place_(topLevel_, controller.views().window, scale, [this] { return bodyRect().size(); }),
       focusWalk_(*this) {
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
@@ -63,17 +74,20 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller, Scale& scale
     makeBody();
     makeDrawers();
     body_->raise();
-    fitCanvas();
+    topLevel_.takeCanvas(canvasFor(controller_.drawers(), scale_));
+    topLevel_.begin(controller_.drawers().areClosed() ? TopLevel::Shape::body
+                                                      : TopLevel::Shape::canvas);
     controller_.hasSavedFrame() ? place_.takePlaceOfRecord() : place_.takeMiddle();
     controller_.views().window.setObserver(this);
     whenScreensChange(*this, [this] {
+        takeSize();
         place_.comeIntoSight();
         place_.tellRecord();
     });
     showPieces();
     create();
-    publishMargins();
-    connect(windowHandle(), &QWindow::screenChanged, this, [this] { publishMargins(); });
+    topLevel_.didCreate();
+    connect(windowHandle(), &QWindow::screenChanged, this, [this] { topLevel_.tellMargins(); });
     windowHandle()->installEventFilter(this);
     adoptedWatch_.setInterval(kAdoptedWatchMilliseconds);
     connect(&adoptedWatch_, &QTimer::timeout, this,
@@ -91,13 +105,35 @@ void CalculatorWindow::makeBody() {
         scale_, [this](double factor) { askForSize(factor); }, body_);
 }
 
+void CalculatorWindow::putBody() {
+    body_->move(topLevel_.corner());
+    showPieces();
+}
+
+void CalculatorWindow::didTakeShape() {
+    place_.followShape();
+    takeSize();
+    openWaitingDrawers();
+}
+
+bool CalculatorWindow::mayDrawerOpen() {
+    if (body_->isMoving()) {
+        return false;
+    }
+    topLevel_.becomeCanvas();
+    return topLevel_.isCanvas();
+}
+
 void CalculatorWindow::makeDrawers() {
     const DrawerWidget::Host host{
         .body = [this] { return bodyRect(); },
         .bodyAtRest = [this] { return body_->restingPlace(); },
-        .isBodyMoving = [this] { return body_->isMoving(); },
+        .mayOpen = [this] { return mayDrawerOpen(); },
         .didMove = [this] { showPieces(); },
-        .makeRoom = [this](const QRect& wanted) { place_.makeRoomFor(wanted); },
+        .makeRoom =
+            [this](const QRect& wanted) {
+                place_.makeRoomFor(wanted.translated(-topLevel_.corner()));
+            },
         .didClose = [this] { giveBackRoom(); },
         .makeContent = {}};
     const auto make = [&](DrawerName name, std::function<QWidget*(QWidget*)> makeContent) {
@@ -153,10 +189,8 @@ void CalculatorWindow::showPieces() {
     for (DrawerWidget* const drawer : drawers_) {
         drawer->followBody();
     }
-    const QRegion region = visibleRegion();
-    if (mask() != region) {
-        setMask(region);
-    }
+    topLevel_.followBody();
+    topLevel_.showOnly(visibleRegion());
 }
 
 void CalculatorWindow::openWaitingDrawers() {
@@ -172,14 +206,15 @@ void CalculatorWindow::giveBackRoom() {
     for (const DrawerWidget* const drawer : drawers_) {
         wanted |= drawer->placeWhenOpen();
     }
-    place_.giveBackRoomBut(wanted);
-}
-
-// Whatever the layout and whatever a window manager made of the size: one that hears of other
-// margins than before may take the difference off the window.
-void CalculatorWindow::publishMargins() {
-    const QSize rest = scale_.pixels(largestBody()) - scale_.pixels(smallestBody());
-    publishFrameExtents(*this, drawerRoom_ + QMargins(0, 0, rest.width(), rest.height()));
+    if (!wanted.isEmpty() || topLevel_.staysCanvas()) {
+        place_.giveBackRoomBut(wanted.translated(-topLevel_.corner()));
+    }
+    // The key pad may go with the last drawer.
+    QTimer::singleShot(0, this, [this] {
+        if (controller_.drawers().areClosed() && !topLevel_.staysCanvas() && !body_->isMoving()) {
+            topLevel_.becomeBody();
+        }
+    });
 }
 
 double CalculatorWindow::factorOfRecord() const {
@@ -190,27 +225,20 @@ double CalculatorWindow::factorOfRecord() const {
                      {static_cast<int>(body.width), static_cast<int>(body.height)}, room.size());
 }
 
-void CalculatorWindow::fitCanvas() {
-    drawerRoom_ = roomFor(controller_.drawers(), scale_);
-    body_->move(drawerRoom_.left(), drawerRoom_.top());
-    setFixedSize(scale_.pixels(largestBody()).grownBy(drawerRoom_));
-}
-
 void CalculatorWindow::takeSize() {
     const double factor = factorOfRecord();
-    if (factor == scale_.factor()) {
+    if (factor == scale_.factor() || topLevel_.isChanging()) {
         return;
     }
-    const QPoint corner = geometry().topLeft() + body_->pos();
+    const QPoint place = topLevel_.place();
     scale_.setFactor(factor);
-    fitCanvas();
     body_->takeSize();
+    topLevel_.takeCanvas(canvasFor(controller_.drawers(), scale_));
     for (DrawerWidget* const drawer : drawers_) {
         drawer->takeSize();
     }
+    place_.keep(place);
     showPieces();
-    publishMargins();
-    place_.keepCorner(corner);
 }
 
 void CalculatorWindow::askForSize(double factor) {
@@ -230,7 +258,16 @@ void CalculatorWindow::wheelEvent(QWheelEvent* event) {
     }
 }
 
-void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) { place_.tellRecord(); }
+void CalculatorWindow::moveEvent(QMoveEvent* /*event*/) {
+    if (!topLevel_.isChanging()) {
+        place_.tellRecord();
+    }
+}
+
+void CalculatorWindow::resizeEvent(QResizeEvent* /*event*/) {
+    topLevel_.didResize();
+    showPieces();
+}
 
 // Over a key the menu begins with the help on that key.
 void CalculatorWindow::contextMenuEvent(QContextMenuEvent* event) {

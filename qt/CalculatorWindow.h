@@ -6,6 +6,7 @@
 
 #include "platform/NSWindow.h"
 #include "qt/FocusWalk.h"
+#include "qt/TopLevel.h"
 #include "qt/WindowPlace.h"
 #include "qt/key_events.h"
 #include "ui/DYXWindowController.h"
@@ -16,9 +17,8 @@ class BodyWidget;
 class DrawerWidget;
 class SizeGrip;
 
-// The calculator on the screen. Its top level is a canvas of fixed size, large enough for the body
-// in every layout with all drawers open around it; only the body and what shows of the drawers can
-// be seen and clicked. So the body never moves while something slides out of it.
+// The calculator on the screen: the body and the drawers around it. Only they can be seen and
+// clicked of the top level.
 class CalculatorWindow final : public QWidget, public NSWindowObserver {
   public:
     CalculatorWindow(DYXWindowController& controller, Scale& scale);
@@ -27,7 +27,7 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void windowDidChange(const NSWindow& window) override;
     void windowWillAnimate(const NSWindow& window) override;
 
-    // The body, and the body with what shows of the drawers, in the canvas.
+    // The body, and the body with what shows of the drawers, in the top level.
     [[nodiscard]] QRect bodyRect() const;
     [[nodiscard]] QRegion visibleRegion() const;
 
@@ -35,6 +35,7 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -48,6 +49,10 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
   private:
     void makeBody();
     void makeDrawers();
+    void putBody();
+    void didTakeShape();
+    // No drawer opens while the body moves, nor without a canvas, which this asks for.
+    bool mayDrawerOpen();
     [[nodiscard]] bool isWhole() const;  // all drawers are made
     // The body or a drawer is somewhere else.
     void showPieces();
@@ -57,20 +62,18 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void keepModifiers(Qt::KeyboardModifiers modifiers);
     void dropModifiers();
     void sendFlags();
-    void publishMargins();
     // The size that the record wants, as far as the screen allows it.
     void takeSize();
-    void fitCanvas();
     [[nodiscard]] double factorOfRecord() const;
     void askForSize(double factor);
 
     DYXWindowController& controller_;
     Scale& scale_;
-    QMargins drawerRoom_;
     BodyWidget* body_ = nullptr;
     SizeGrip* sizeGrip_ = nullptr;
     std::array<DrawerWidget*, kDrawerNames.size()> drawers_{};
     std::u16string helpOn_;
+    TopLevel topLevel_;
     WindowPlace place_;
     HeldModifiers heldModifiers_;
     QTimer adoptedWatch_;

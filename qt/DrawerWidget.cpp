@@ -100,12 +100,13 @@ void DrawerWidget::drawerDidChange(const NSDrawer& /*drawer*/) {
     }
 }
 
-// A body that is on its way comes back to this at the end of it.
+// A window that isn't ready for it comes back to this when it is.
 void DrawerWidget::open() {
-    if (host_.isBodyMoving()) {
+    const bool mayOpen = host_.mayOpen();
+    makeContentOnce();
+    if (!mayOpen) {
         return;
     }
-    makeContentOnce();
     place();
     host_.makeRoom(placeWhenOpen());
     slideTo(fullDepth());

@@ -19,7 +19,7 @@ class DrawerWidget final : public QWidget, public NSDrawerObserver {
     struct Host {
         std::function<QRect()> body;                        // its place in the canvas
         std::function<QRect()> bodyAtRest;                  // the same at the end of its motion
-        std::function<bool()> isBodyMoving;                 // no drawer opens meanwhile
+        std::function<bool()> mayOpen;                      // or else will be told of it later
         std::function<void()> didMove;                      // what is on show has changed
         std::function<void(const QRect& wanted)> makeRoom;  // brings a place onto the screen
         std::function<void()> didClose;

@@ -11,19 +11,19 @@
 namespace talvex {
 namespace {
 
-// By then a window manager has placed a new window.
-constexpr int kMappedMilliseconds = 300;
+// By then a window manager has placed a new window, or one that was asked to move.
+constexpr int kPlacedMilliseconds = 300;
 
 }  // namespace
 
-WindowPlace::WindowPlace(QWidget& topLevel, NSWindow& record, const Scale& scale,
-                         std::function<QRect()> body)
-    : topLevel_(topLevel), record_(record), scale_(scale), body_(std::move(body)) {}
+WindowPlace::WindowPlace(TopLevel& topLevel, NSWindow& record, const Scale& scale,
+                         std::function<QSize()> bodySize)
+    : topLevel_(topLevel), record_(record), scale_(scale), bodySize_(std::move(bodySize)) {}
 
-// By the place of the content: a frame that the window manager adds isn't ours.
 void WindowPlace::moveTo(const QPoint& place) {
     wanted_ = place;
-    topLevel_.setGeometry({place, topLevel_.size()});
+    asked_.invalidate();
+    topLevel_.moveTo(place);
 }
 
 void WindowPlace::takePlaceOfRecord() {
@@ -33,15 +33,28 @@ void WindowPlace::takePlaceOfRecord() {
 
 void WindowPlace::takeMiddle() {
     const QRect visible = QGuiApplication::primaryScreen()->availableGeometry();
-    moveTo(visible.center() - body_().center());
+    moveTo(visible.center() - QRect(QPoint(), bodySize_()).center());
 }
 
 void WindowPlace::insistOnceMapped() {
-    QTimer::singleShot(kMappedMilliseconds, &topLevel_, [this] {
+    QTimer::singleShot(kPlacedMilliseconds, topLevel_.context(), [this] {
         if (present() != wanted_) {
             moveTo(wanted_);
         }
     });
+}
+
+void WindowPlace::followShape() {
+    excursion_.reset();
+    if (topLevel_.isCanvas()) {
+        excursion_ = Excursion{.home = topLevel_.keptPlace(), .away = present()};
+        asked_.start();
+    }
+    tellRecord();
+}
+
+QPoint WindowPlace::home() const {
+    return excursion_ && excursion_->away == present() ? excursion_->home : present();
 }
 
 void WindowPlace::followRecord() {
@@ -51,13 +64,17 @@ void WindowPlace::followRecord() {
     }
 }
 
-void WindowPlace::keepCorner(const QPoint& corner) {
+void WindowPlace::keep(const QPoint& place) {
     excursion_.reset();
-    moveTo(corner - body_().topLeft());
+    moveTo(place);
 }
 
 void WindowPlace::tellRecord() {
-    const QPoint corner = present() + body_().topLeft();
+    const QPoint corner = present();
+    // What comes of our own request isn't a move of the user's.
+    if (excursion_ && asked_.isValid() && asked_.elapsed() < kPlacedMilliseconds) {
+        excursion_->away = corner;
+    }
     const QRect known = onScreen(record_.frame());
     if (known.topLeft() != corner) {
         record_.setFrame(talvex::placeOfRecord({corner, known.size()}));
@@ -77,6 +94,7 @@ void WindowPlace::makeRoomFor(const QRect& wanted) {
     if (place != from) {
         excursion_ = Excursion{.home = home, .away = place};
         moveTo(place);
+        asked_.start();
     }
 }
 
@@ -90,28 +108,26 @@ void WindowPlace::giveBackRoomBut(const QRect& wanted) {
         return;
     }
     const QPoint place = wanted.isEmpty() ? home : roomFor(wanted, home);
-    excursion_->away = place;
-    if (place == home) {
-        excursion_.reset();
+    if (place != away) {
+        excursion_->away = place;
+        moveTo(place);
+        asked_.start();
     }
-    moveTo(place);
 }
 
-QPoint WindowPlace::placeOfRecord() const {
-    return onScreen(record_.frame()).topLeft() - body_().topLeft();
-}
+QPoint WindowPlace::placeOfRecord() const { return onScreen(record_.frame()).topLeft(); }
 
 bool WindowPlace::wouldBeInSight(const QPoint& place) const {
-    const int bar = scale_.pixels(NSWindow::kTitleBarHeight);
-    return isInSight({place + body_().topLeft(), QSize(body_().width(), bar)});
+    return isInSight({place, QSize(bodySize_().width(), scale_.pixels(NSWindow::kTitleBarHeight))});
 }
 
 QPoint WindowPlace::roomFor(const QRect& wanted, const QPoint& home) const {
-    const QRect all = (wanted | body_()).translated(home);
+    const QRect body(QPoint(), bodySize_());
+    const QRect all = (wanted | body).translated(home);
     if (isAllInSight(all)) {
         return home;
     }
-    const QRect visible = availableAround(body_().translated(home));
+    const QRect visible = availableAround(body.translated(home));
     QPoint step(std::min(0, visible.right() - all.right()),
                 std::min(0, visible.bottom() - all.bottom()));
     step.rx() += std::max(0, visible.left() - all.left() - step.x());

@@ -10,23 +10,69 @@
 #include <cstdlib>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace talvex {
+namespace {
+
+constexpr std::string_view kFrameExtents = "_GTK_FRAME_EXTENTS";
+
+template <class Reply>
+std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
+    return {reply, &std::free};
+}
+
+xcb_connection_t* connectionToServer() {
+    const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return native == nullptr ? nullptr : native->connection();
+}
+
+xcb_atom_t atomOf(xcb_connection_t* connection, std::string_view name) {
+    const auto cookie =
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const auto reply = owned(xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+template <class Value>
+std::vector<Value> propertyOf(xcb_connection_t* connection, xcb_window_t window,
+                              std::string_view name) {
+    constexpr std::uint32_t kMost = 4096;
+    const auto cookie = xcb_get_property(connection, 0, window, atomOf(connection, name),
+                                         XCB_GET_PROPERTY_TYPE_ANY, 0, kMost);
+    const auto reply = owned(xcb_get_property_reply(connection, cookie, nullptr));
+    if (!reply || reply->format != 8 * sizeof(Value)) {
+        return {};
+    }
+    const auto* const first = static_cast<const Value*>(xcb_get_property_value(reply.get()));
+    return {first, first + reply->value_len};
+}
+
+}  // namespace
+
+bool isFrameExtentsKnown() {
+    xcb_connection_t* const connection = connectionToServer();
+    if (connection == nullptr) {
+        return false;
+    }
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    const auto supported = propertyOf<xcb_atom_t>(connection, root, "_NET_SUPPORTED");
+    const xcb_atom_t extents = atomOf(connection, kFrameExtents);
+    const auto manager = propertyOf<xcb_window_t>(connection, root, "_NET_SUPPORTING_WM_CHECK");
+    if (manager.empty() ||
+        std::find(supported.begin(), supported.end(), extents) == supported.end()) {
+        return false;
+    }
+    const auto name = propertyOf<char>(connection, manager.front(), "_NET_WM_NAME");
+    // It says so, and leaves them out of account.
+    return std::string_view(name.data(), name.size()).find("Marco") == std::string_view::npos;
+}
 
 void publishFrameExtents(const QWidget& window, const QMargins& margins) {
-    const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (native == nullptr) {
-        return;
-    }
-    xcb_connection_t* const connection = native->connection();
-    if (connection == nullptr) {
-        return;
-    }
-    constexpr std::string_view kName = "_GTK_FRAME_EXTENTS";
-    const auto cookie = xcb_intern_atom(connection, 0, kName.size(), kName.data());
-    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
-        xcb_intern_atom_reply(connection, cookie, nullptr), &std::free);
-    if (!atom) {
+    xcb_connection_t* const connection = connectionToServer();
+    const xcb_atom_t atom =
+        connection == nullptr ? xcb_atom_t{XCB_ATOM_NONE} : atomOf(connection, kFrameExtents);
+    if (atom == XCB_ATOM_NONE) {
         return;
     }
     const double scale = window.devicePixelRatioF();
@@ -37,7 +83,7 @@ void publishFrameExtents(const QWidget& window, const QMargins& margins) {
                              pixels(margins.bottom())};
     constexpr std::uint8_t kBitsOfCardinal = 32;
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE,
-                        static_cast<xcb_window_t>(window.winId()), atom->atom, XCB_ATOM_CARDINAL,
+                        static_cast<xcb_window_t>(window.winId()), atom, XCB_ATOM_CARDINAL,
                         kBitsOfCardinal, extents.size(), extents.data());
 }
 

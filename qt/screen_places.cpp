@@ -31,7 +31,7 @@ NSRect placeOfRecord(const QRect& rect) {
 }
 
 bool isInSight(const QRect& titleBar) {
-    constexpr int kInSight = 40;
+    constexpr int kInSight = 120;  // beside the buttons at either end
     const QList<QScreen*> screens = QGuiApplication::screens();
     return std::any_of(screens.begin(), screens.end(), [&titleBar](const QScreen* screen) {
         const QRect seen = screen->availableGeometry().intersected(titleBar);

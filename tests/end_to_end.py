@@ -208,7 +208,7 @@ class EndToEnd(unittest.TestCase):
         def xrandr(*arguments):
             subprocess.run(["xrandr", *arguments], check=True)
 
-        xdotool("windowmove", int(self.windows()[0]), 600, 500)
+        xdotool("windowmove", int(self.windows()[0]), 850, 650)
         wait_until(lambda: self.calculator.place("enter") > (800, 600), "the window to move away")
         xrandr("--newmode", "small", *"38.25 800 832 912 1024 600 603 607 624".split())
         xrandr("--addmode", "screen", "small")

@@ -43,6 +43,7 @@ class Drawers final : public NSDrawerDelegate {
 
     // Opens or closes a drawer.
     void toggleDrawer(DrawerName name) { toggleDrawer((*this)[name].record); }
+    [[nodiscard]] bool areClosed() const;  // all of them
     // A drawer at a side stays as high as its content when the height of the window changes.
     void windowDidResize();
 
@@ -67,7 +68,6 @@ class Drawers final : public NSDrawerDelegate {
   private:
     void toggleDrawer(NSDrawer& drawer);
     [[nodiscard]] Drawer& of(const NSDrawer& record);
-    [[nodiscard]] bool areClosed() const;
     void callWhenClosed();
 
     WindowViews& views_;
