@@ -136,7 +136,7 @@ std::vector<Picture> modes(std::int32_t size) {
     std::vector<Picture> pictures;
     for (std::int32_t mode = 0; mode < mode::count; ++mode) {
         Stage stage(size);
-        stage.type(u"10r\r1.5\r3\r1234.5678\r");
+        stage.type(u"4111222333\r1.5\r1234.5678\r");
         stage.controller().geometry().takeShowYZTRegistersFrom();
         stage.controller().geometry().takeShowKeyPadFrom();
         stage.controller().choose(settingRow<&Settings::inputDisplayMode>(), mode);

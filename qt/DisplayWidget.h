@@ -29,6 +29,9 @@ class LineWidget final : public QLabel, public NSViewObserver {
 
   private:
     [[nodiscard]] std::array<NSTextField*, 5> textSlots() const;
+    [[nodiscard]] QRect roomOf(const NSTextField& slot) const;
+    QRectF paintSlot(QPainter& painter, const NSTextField& field, const QString& text) const;
+    void paintTimesTen(QPainter& painter, const QRectF& mantissa) const;
     [[nodiscard]] QString spokenText() const;
     void updateAccessibleText();
 

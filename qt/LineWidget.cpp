@@ -2,6 +2,7 @@
 #include <QPainter>
 
 #include "qt/DisplayWidget.h"
+#include "qt/FittedText.h"
 #include "qt/conversions.h"
 
 namespace talvex {
@@ -10,20 +11,7 @@ namespace {
 constexpr double kPadding = 2.0;
 constexpr double kSmallestText = 7.0;
 
-// Text hangs from the top of its field, which brings labels and numbers onto one baseline.
-Qt::Alignment alignmentOf(NSTextAlignment alignment) {
-    switch (alignment) {
-        case NSTextAlignment::right:
-            return Qt::AlignRight | Qt::AlignTop;
-        case NSTextAlignment::center:
-            return Qt::AlignHCenter | Qt::AlignTop;
-        case NSTextAlignment::left:
-            break;
-    }
-    return Qt::AlignLeft | Qt::AlignTop;
-}
-
-// The field's font, smaller if the text doesn't fit otherwise: no digit may be cut off.
+// The field's font, smaller if the text doesn't fit otherwise.
 QFont fittingFont(const NSTextField& field, const Scale& scale, const QString& text, int width) {
     QFont font = scale.font(field.font());
     while (font.pixelSize() > scale.pixels(kSmallestText) &&
@@ -33,34 +21,62 @@ QFont fittingFont(const NSTextField& field, const Scale& scale, const QString& t
     return font;
 }
 
+bool isShown(const NSTextField& field) { return !field.isHidden() && !field.stringValue().empty(); }
+
 // A sign slot holds a hyphen; a minus sign is what a reader expects.
 QString shownText(const NSTextField& field, bool isSign) {
     const QString text = toQString(field.stringValue());
     return isSign && text == QLatin1String("-") ? QString(QChar(0x2212)) : text;
 }
 
-struct FieldText {
-    const NSTextField& field;
-    QString text;
-    double padding = kPadding;
-};
-
-void paintText(QPainter& painter, const QRect& rect, const Scale& scale, const FieldText& shown) {
-    const auto& [field, text, points] = shown;
-    const int padding = scale.pixels(points);
-    if (text.isEmpty() || field.isHidden()) {
-        return;
-    }
-    const QRect inside = rect.adjusted(padding, 0, -padding, 0);
-    painter.setFont(fittingFont(field, scale, text, inside.width()));
-    painter.setPen(toQColor(field.textColor()));
-    painter.drawText(inside, static_cast<int>(alignmentOf(field.alignment())) | Qt::TextSingleLine,
-                     text);
+// The base of a number in HEX, DEC, OCT and BIN stands in the place of an exponent.
+bool isBaseName(const QString& exponent) {
+    return !exponent.isEmpty() && exponent.front().isLetter();
 }
 
 double rightEdge(const NSView& view) { return view.frame().x + view.frame().width; }
 
 }  // namespace
+
+// Text hangs from the top of its field, which brings labels and numbers onto one baseline. Answers
+// where it begins and ends.
+QRectF LineWidget::paintSlot(QPainter& painter, const NSTextField& field,
+                             const QString& text) const {
+    const QRect room = roomOf(field);
+    const QFont font = scale_.font(field.font());
+    const FittedText fitted(font, text, room.width());
+    const double x = field.alignment() == NSTextAlignment::right
+                         ? room.left() + room.width() - fitted.width()
+                         : room.left();
+    const int ascent = QFontMetrics(font).ascent();
+    painter.setPen(toQColor(field.textColor()));
+    fitted.paint(painter, QPointF(x, room.top() + ascent));
+    return {x, static_cast<double>(room.top()), fitted.width(), static_cast<double>(ascent)};
+}
+
+// Says what an exponent is that stands far from its mantissa.
+void LineWidget::paintTimesTen(QPainter& painter, const QRectF& mantissa) const {
+    const NSTextField& field = *line_.exponentField();
+    if (!isShown(field) || isBaseName(toQString(field.stringValue()))) {
+        return;
+    }
+    const NSTextField& sign = *line_.exponentSignField();
+    const double padding = scale_.exactly(kPadding);
+    const double right = roomOf(isShown(sign) ? sign : field).left() - padding;
+    constexpr double kSize = 0.8;
+    constexpr float kOpacity = 0.5F;
+    NSFont font = field.font();
+    font.size *= kSize;
+    const FittedText timesTen(scale_.font(font), QStringLiteral("\u00D710"), right);
+    const double left = right - timesTen.width();
+    if (left < mantissa.right() + padding) {
+        return;
+    }
+    QColor faint = toQColor(field.textColor());
+    faint.setAlphaF(kOpacity);
+    painter.setPen(faint);
+    timesTen.paint(painter, QPointF(left, mantissa.bottom()));
+}
 
 LineWidget::LineWidget(const DYXOutputDisplay& line, NSView& displayView, const Scale& scale,
                        QWidget* parent)
@@ -104,10 +120,9 @@ QString LineWidget::spokenText() const {
     const auto text = [](const TextSlot& slot) { return toQString(slot->stringValue()); };
     const QString number = text(line_.mantissaSignField()) + text(line_.mantissaField());
     const QString exponent = text(line_.exponentField());
-    const bool isBaseName = !exponent.isEmpty() && exponent.front().isLetter();
-    const QString tail = exponent.isEmpty() ? QString()
-                         : isBaseName       ? u' ' + exponent
-                                            : u'e' + text(line_.exponentSignField()) + exponent;
+    const QString tail = exponent.isEmpty()     ? QString()
+                         : isBaseName(exponent) ? u' ' + exponent
+                                                : u'e' + text(line_.exponentSignField()) + exponent;
     return text(line_.labelField()) + u' ' + number + tail;
 }
 
@@ -122,20 +137,33 @@ void LineWidget::updateAccessibleText() {
 
 void LineWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    QRectF mantissa;
+    for (const NSTextField* slot : textSlots()) {
+        if (isShown(*slot)) {
+            const bool isSign =
+                slot == line_.mantissaSignField().get() || slot == line_.exponentSignField().get();
+            const QRectF text = paintSlot(painter, *slot, shownText(*slot, isSign));
+            mantissa = slot == line_.mantissaField().get() ? text : mantissa;
+        }
+    }
+    paintTimesTen(painter, mantissa);
+}
+
+// The room of a slot within the line. Digits that end at the right may begin where a sign would.
+QRect LineWidget::roomOf(const NSTextField& slot) const {
+    NSRect place = slot.frame();
     const double bottom = line_.labelField()->frame().y;
     const NSRect mantissa = line_.mantissaField()->frame();
-    const double rowHeight = mantissa.y + mantissa.height - bottom;
-    for (const NSTextField* slot : textSlots()) {
-        NSRect place = slot->frame();
-        place.y -= bottom;
-        const bool isSign =
-            slot == line_.mantissaSignField().get() || slot == line_.exponentSignField().get();
-        const bool isLabel = slot == line_.labelField().get();
-        paintText(painter, scale_.pixels(place, rowHeight), scale_,
-                  {.field = *slot,
-                   .text = shownText(*slot, isSign),
-                   .padding = isLabel ? 0.0 : kPadding});
+    place.y -= bottom;
+    const NSTextField& sign = *line_.mantissaSignField();
+    if (&slot == line_.mantissaField().get() && slot.alignment() == NSTextAlignment::right &&
+        !isShown(sign)) {
+        place.width += place.x - sign.frame().x;
+        place.x = sign.frame().x;
     }
+    const int padding = &slot == line_.labelField().get() ? 0 : scale_.pixels(kPadding);
+    return scale_.pixels(place, mantissa.y + mantissa.height - bottom)
+        .adjusted(padding, 0, -padding, 0);
 }
 
 StatusWidget::StatusWidget(NSTextField& record, const WindowViews& views, Scale& scale,
