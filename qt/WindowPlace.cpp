@@ -66,7 +66,7 @@ void WindowPlace::followRecord() {
 
 void WindowPlace::keep(const QPoint& place) {
     excursion_.reset();
-    moveTo(place);
+    moveTo(roomFor({}, place));
 }
 
 void WindowPlace::tellRecord() {
@@ -123,11 +123,20 @@ bool WindowPlace::wouldBeInSight(const QPoint& place) const {
 
 QPoint WindowPlace::roomFor(const QRect& wanted, const QPoint& home) const {
     const QRect body(QPoint(), bodySize_());
-    const QRect all = (wanted | body).translated(home);
+    QRect all = (wanted | body).translated(home);
     if (isAllInSight(all)) {
         return home;
     }
     const QRect visible = availableAround(body.translated(home));
+    // Where there isn't room for both, the keys of the drawer have to be in reach.
+    if (all.width() > visible.width()) {
+        all.setLeft(home.x() + wanted.left());
+        all.setWidth(wanted.width());
+    }
+    if (all.height() > visible.height()) {
+        all.setTop(home.y() + wanted.top());
+        all.setHeight(wanted.height());
+    }
     QPoint step(std::min(0, visible.right() - all.right()),
                 std::min(0, visible.bottom() - all.bottom()));
     step.rx() += std::max(0, visible.left() - all.left() - step.x());

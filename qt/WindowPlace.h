@@ -30,7 +30,7 @@ class WindowPlace {
 
     // The record was moved.
     void followRecord();
-    // All of it has another size; its corner is to stay there.
+    // All of it has another size; its corner is to stay there, as far as it can be seen so.
     void keep(const QPoint& place);
     // The window was moved, or the screen from which the record counts.
     void tellRecord();
@@ -38,7 +38,7 @@ class WindowPlace {
     void comeIntoSight();
 
     // Moves the window as far as `wanted`, a place beside the body's corner, needs to be on the
-    // screen, but never the title bar out of sight.
+    // screen; the body goes out of sight only as far as the screen is too small for both.
     void makeRoomFor(const QRect& wanted);
     // What needs room now is `wanted`: goes back as far as that allows, unless the window was moved
     // since it made room.

@@ -84,6 +84,7 @@ TEST_F(Window, GrowsAsAWholeAndIsLargeEnoughForAFinger) {
     for (const DrawerName name : kDrawerNames) {
         open(name);
     }
+    views.window.setFrameTopLeftPoint({20.0, 780.0});  // of a screen of 800 by 800
     choose<&Settings::windowSize>(150);
     for (const auto* const button : window.findChildren<QAbstractButton*>()) {
         EXPECT_GE(button->height(), 24) << button->accessibleName().toStdString();
@@ -99,7 +100,7 @@ TEST_F(Window, GrowsAsAWholeAndIsLargeEnoughForAFinger) {
     drag(*grip, body.bottomRight() - QPoint(2, 2), {60, 35});
     EXPECT_EQ(controller.settings().windowSize, 165);
     EXPECT_EQ(window.bodyRect().size(), QSize(667, 384));
-    choose<&Settings::windowSize>(300);  // the screen has 800 by 800
+    choose<&Settings::windowSize>(300);
     EXPECT_EQ(window.bodyRect().width(), 800);
     choose<&Settings::windowSize>(1);
     EXPECT_EQ(window.bodyRect().width(), 303);
