@@ -4,7 +4,6 @@
 #include <QRawFont>
 #include <algorithm>
 #include <cmath>
-#include <utility>
 #include <vector>
 
 namespace talvex {
@@ -52,8 +51,8 @@ double shareOfStretch(const std::vector<Width>& widths, double room) {
 
 }  // namespace
 
-FittedText::FittedText(QFont font, const QString& text, double room)
-    : font_(std::move(font)), text_(withoutLastGap(text)) {
+FittedText::FittedText(const QFont& font, const QString& text, double room)
+    : font_(font), text_(withoutLastGap(text)) {
     const auto smallest = std::lround(kSmallestText * font_.pixelSize());
     measure(room);
     while (width_ > room && font_.pixelSize() > smallest) {

@@ -12,7 +12,7 @@ namespace talvex {
 // they read as one number.
 class FittedText {
   public:
-    FittedText(QFont font, const QString& text, double room);
+    FittedText(const QFont& font, const QString& text, double room);
 
     [[nodiscard]] double width() const { return width_; }
     [[nodiscard]] const QFont& font() const { return font_; }

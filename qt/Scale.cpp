@@ -9,8 +9,9 @@ namespace talvex {
 
 void Scale::setFactor(double factor) {
     factor_ = factor;
-    for (std::size_t index = 0; index < followers_.size(); ++index) {
-        followers_[index]->scaleDidChange();
+    const auto followers = followers_;  // one may bring another
+    for (ScaleFollower* const follower : followers) {
+        follower->scaleDidChange();
     }
 }
 
