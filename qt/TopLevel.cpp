@@ -104,11 +104,11 @@ void TopLevel::askForShape() {
     phase_ = Phase::asked;
     // Of the larger shape at its place this is the body, of the smaller one a part of it.
     window_.setMask(QRect(cornerIn(Shape::canvas), host_.body().size()));
-    asked_ = wanted_;
-    keptPlace_ = asked_ == Shape::body ? host_.placeWithoutDrawers() : place();
-    staysCanvas_ = asked_ == Shape::canvas && isFrameExtentsKnown();
+    coming_ = wanted_;
+    keptPlace_ = coming_ == Shape::body ? host_.placeWithoutDrawers() : place();
+    staysCanvas_ = coming_ == Shape::canvas && isFrameExtentsKnown();
     tellMargins();
-    ask({keptPlace_ - cornerIn(asked_), sizeOf(asked_)});
+    ask({keptPlace_ - cornerIn(coming_), sizeOf(coming_)});
     next_.start(kObeyMilliseconds);
 }
 
@@ -116,10 +116,16 @@ void TopLevel::ask(const QRect& geometry) {
     QWindow& handle = *window_.windowHandle();
     handle.setMinimumSize(size_.boundedTo(geometry.size()));
     handle.setMaximumSize(size_.expandedTo(geometry.size()));
-    handle.setGeometry(geometry);
+    handle.setGeometry(withinBorder(geometry));
     size_ = geometry.size();
     handle.setMinimumSize(size_);
     handle.setMaximumSize(size_);
+}
+
+// The toolkit leaves out of account that it is the border which comes to the place asked for.
+QRect TopLevel::withinBorder(const QRect& geometry) const {
+    const int border = borderAround(window_);
+    return geometry.translated(-border, -border);
 }
 
 // Always those around the smallest body: a window manager that hears of others than before may take
@@ -141,7 +147,7 @@ void TopLevel::didResize() {
 // The place comes after the size.
 void TopLevel::takeShape() {
     next_.stop();
-    shape_ = asked_;
+    shape_ = coming_;
     host_.didTakeShape();
     QTimer::singleShot(0, &window_, [this] { arrive(); });
 }
@@ -158,10 +164,10 @@ void TopLevel::arrive() {
 }
 
 void TopLevel::moveTo(const QPoint& place) {
-    if (phase_ == Phase::asked && shape_ != asked_) {
-        window_.windowHandle()->setGeometry({place - cornerIn(asked_), size_});
+    if (phase_ == Phase::asked) {
+        ask({place - cornerIn(coming_), size_});
     } else {
-        window_.setGeometry({place - corner(), window_.size()});
+        window_.setGeometry(withinBorder({place - corner(), window_.size()}));
     }
 }
 
@@ -172,13 +178,15 @@ void TopLevel::followBody() {
     if (window_.windowHandle() == nullptr || phase_ == Phase::asked || shape_ == Shape::canvas) {
         return;
     }
-    if (const QSize size = sizeOf(Shape::body); size != size_) {
-        ask({window_.windowHandle()->geometry().topLeft(), size});
+    const bool moves = host_.body().size() != host_.bodyAtRest().size();
+    const QSize size = sizeOf(Shape::body).expandedTo(moves ? size_ : QSize());
+    if (size != size_) {
+        ask({window_.geometry().topLeft(), size});
     }
 }
 
 void TopLevel::showOnly(const QRegion& region) {
-    if (phase_ == Phase::asked && shape_ != asked_) {
+    if (phase_ == Phase::asked && shape_ != coming_) {
         return;
     }
     const bool isAll = region == window_.rect() && window_.size() == size_;

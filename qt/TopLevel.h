@@ -69,6 +69,7 @@ class TopLevel {
     void cover();
     void askForShape();
     void ask(const QRect& geometry);
+    [[nodiscard]] QRect withinBorder(const QRect& geometry) const;
     void takeShape();
     void arrive();
     [[nodiscard]] QPoint cornerIn(Shape shape) const;
@@ -79,7 +80,7 @@ class TopLevel {
     Host host_;
     Shape shape_ = Shape::body;
     Shape wanted_ = Shape::body;
-    Shape asked_ = Shape::body;  // of the desktop
+    Shape coming_ = Shape::body;
     Phase phase_ = Phase::rest;
     QPoint keptPlace_;
     QSize size_;  // that was asked for

@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <QGuiApplication>
+#include <QWindow>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -85,6 +86,18 @@ void publishFrameExtents(const QWidget& window, const QMargins& margins) {
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE,
                         static_cast<xcb_window_t>(window.winId()), atom, XCB_ATOM_CARDINAL,
                         kBitsOfCardinal, extents.size(), extents.data());
+}
+
+int borderAround(const QWidget& window) {
+    xcb_connection_t* const connection = connectionToServer();
+    if (connection == nullptr || window.windowHandle() == nullptr) {
+        return 0;
+    }
+    const auto cookie =
+        xcb_get_geometry(connection, static_cast<xcb_window_t>(window.windowHandle()->winId()));
+    const auto reply = owned(xcb_get_geometry_reply(connection, cookie, nullptr));
+    return reply ? static_cast<int>(std::lround(reply->border_width / window.devicePixelRatioF()))
+                 : 0;
 }
 
 }  // namespace talvex

@@ -13,4 +13,7 @@ namespace talvex {
 // nothing where there is no X server.
 void publishFrameExtents(const QWidget& window, const QMargins& margins);
 
+// How wide a border the window manager has put around the window, in points.
+[[nodiscard]] int borderAround(const QWidget& window);
+
 }  // namespace talvex

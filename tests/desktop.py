@@ -26,6 +26,14 @@ def wait_until(question, what, seconds=10.0, pause=0.02):
         time.sleep(pause)
 
 
+class XImage(ctypes.Structure):
+    _fields_ = [("width", ctypes.c_int), ("height", ctypes.c_int), ("xoffset", ctypes.c_int),
+                ("format", ctypes.c_int), ("data", ctypes.c_void_p), ("byte_order", ctypes.c_int),
+                ("bitmap_unit", ctypes.c_int), ("bitmap_bit_order", ctypes.c_int),
+                ("bitmap_pad", ctypes.c_int), ("depth", ctypes.c_int),
+                ("bytes_per_line", ctypes.c_int)]
+
+
 class Screen:
     """A connection of our own to the X server."""
 
@@ -63,12 +71,17 @@ class Screen:
     def close(self):
         self.x11.XCloseDisplay(self.display)
 
+    def pixels(self, x, y, width, height):
+        """Four bytes for each, row by row."""
+        address = ctypes.c_void_p(self.x11.XGetImage(
+            self.display, self.root, x, y, width, height, ctypes.c_ulong(0xFFFFFF), Z_PIXMAP))
+        image = ctypes.cast(address, ctypes.POINTER(XImage)).contents
+        data = ctypes.string_at(image.data, image.bytes_per_line * image.height)
+        self.x11.XDestroyImage(address)
+        return data
+
     def pixel(self, x, y):
-        image = ctypes.c_void_p(self.x11.XGetImage(
-            self.display, self.root, x, y, 1, 1, ctypes.c_ulong(0xFFFFFF), Z_PIXMAP))
-        value = self.x11.XGetPixel(image, 0, 0) & 0xFFFFFF
-        self.x11.XFree(image)
-        return value
+        return int.from_bytes(self.pixels(x, y, 1, 1), "little") & 0xFFFFFF
 
 
 @contextlib.contextmanager
