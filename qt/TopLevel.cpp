@@ -77,7 +77,8 @@ void TopLevel::become(Shape shape) {
     if (phase_ == Phase::rest && wanted_ != shape_) {
         phase_ = Phase::covered;
         cover();
-        next_.start(kCoverMilliseconds);
+        // The first look at a drawer's content takes longer than that.
+        QTimer::singleShot(0, &window_, [this] { next_.start(kCoverMilliseconds); });
     }
 }
 
