@@ -908,6 +908,10 @@
             <translation>base of the natural logarithm</translation>
         </message>
         <message>
+            <source>binary, 32 bits</source>
+            <translation>binary, 32 bits</translation>
+        </message>
+        <message>
             <source>bits not set in both X and Y</source>
             <translation>bits not set in both X and Y</translation>
         </message>
@@ -930,6 +934,10 @@
         <message>
             <source>cancel</source>
             <translation>cancel</translation>
+        </message>
+        <message>
+            <source>carpentry, marks of a folding rule</source>
+            <translation>carpentry, marks of a folding rule</translation>
         </message>
         <message>
             <source>centi, 10^{−2}</source>
@@ -1048,6 +1056,10 @@
             <translation>decibel above a milliwatt</translation>
         </message>
         <message>
+            <source>decimal integers, 32 bits</source>
+            <translation>decimal integers, 32 bits</translation>
+        </message>
+        <message>
             <source>decimal logarithm</source>
             <translation>decimal logarithm</translation>
         </message>
@@ -1070,6 +1082,14 @@
         <message>
             <source>degree Rankine</source>
             <translation>degree Rankine</translation>
+        </message>
+        <message>
+            <source>degrees, 360 in a turn</source>
+            <translation>degrees, 360 in a turn</translation>
+        </message>
+        <message>
+            <source>degrees, minutes, seconds</source>
+            <translation>degrees, minutes, seconds</translation>
         </message>
         <message>
             <source>divide Y by X</source>
@@ -1118,6 +1138,10 @@
         <message>
             <source>elementary charge</source>
             <translation>elementary charge</translation>
+        </message>
+        <message>
+            <source>engineering, exponents in steps of three</source>
+            <translation>engineering, exponents in steps of three</translation>
         </message>
         <message>
             <source>enter</source>
@@ -1208,6 +1232,10 @@
             <translation>fine-structure constant</translation>
         </message>
         <message>
+            <source>fixed number of decimals</source>
+            <translation>fixed number of decimals</translation>
+        </message>
+        <message>
             <source>foot</source>
             <translation>foot</translation>
         </message>
@@ -1226,6 +1254,10 @@
         <message>
             <source>fractional part</source>
             <translation>fractional part</translation>
+        </message>
+        <message>
+            <source>fractions</source>
+            <translation>fractions</translation>
         </message>
         <message>
             <source>gamma function</source>
@@ -1250,6 +1282,10 @@
         <message>
             <source>gradian</source>
             <translation>gradian</translation>
+        </message>
+        <message>
+            <source>grads, 400 in a turn</source>
+            <translation>grads, 400 in a turn</translation>
         </message>
         <message>
             <source>grain</source>
@@ -1288,6 +1324,10 @@
             <translation>hectare</translation>
         </message>
         <message>
+            <source>hexadecimal, 32 bits</source>
+            <translation>hexadecimal, 32 bits</translation>
+        </message>
+        <message>
             <source>horsepower</source>
             <translation>horsepower</translation>
         </message>
@@ -1298,6 +1338,14 @@
         <message>
             <source>hour of angle, 15 degrees</source>
             <translation>hour of angle, 15 degrees</translation>
+        </message>
+        <message>
+            <source>hours, 24 in a turn</source>
+            <translation>hours, 24 in a turn</translation>
+        </message>
+        <message>
+            <source>hours, minutes, seconds</source>
+            <translation>hours, minutes, seconds</translation>
         </message>
         <message>
             <source>hyperbolic error</source>
@@ -1366,6 +1414,10 @@
         <message>
             <source>inverse of the next function</source>
             <translation>inverse of the next function</translation>
+        </message>
+        <message>
+            <source>irrational, multiples of π, √2, √3 and e</source>
+            <translation>irrational, multiples of π, √2, √3 and e</translation>
         </message>
         <message>
             <source>joule</source>
@@ -1644,6 +1696,10 @@
             <translation>molar gas constant</translation>
         </message>
         <message>
+            <source>money, X itself is rounded</source>
+            <translation>money, X itself is rounded</translation>
+        </message>
+        <message>
             <source>multiply Y by X</source>
             <translation>multiply Y by X</translation>
         </message>
@@ -1710,6 +1766,10 @@
         <message>
             <source>newton</source>
             <translation>newton</translation>
+        </message>
+        <message>
+            <source>octal, 32 bits</source>
+            <translation>octal, 32 bits</translation>
         </message>
         <message>
             <source>one, no prefix</source>
@@ -1872,6 +1932,10 @@
             <translation>radian</translation>
         </message>
         <message>
+            <source>radians, 2π in a turn</source>
+            <translation>radians, 2π in a turn</translation>
+        </message>
+        <message>
             <source>random</source>
             <translation>random</translation>
         </message>
@@ -1898,6 +1962,10 @@
         <message>
             <source>revolution</source>
             <translation>revolution</translation>
+        </message>
+        <message>
+            <source>revolutions</source>
+            <translation>revolutions</translation>
         </message>
         <message>
             <source>rint</source>
@@ -1934,6 +2002,10 @@
         <message>
             <source>round, halves to even</source>
             <translation>round, halves to even</translation>
+        </message>
+        <message>
+            <source>scientific, with an exponent</source>
+            <translation>scientific, with an exponent</translation>
         </message>
         <message>
             <source>sec</source>

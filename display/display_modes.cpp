@@ -11,8 +11,9 @@ constexpr std::u16string_view kUnknown = u"???";
 }  // namespace
 
 std::u16string displayModeName(std::int32_t number) {
-    return std::u16string(
-        isDisplayMode(number) ? kDisplayModeNames.at(static_cast<std::size_t>(number)) : kUnknown);
+    return std::u16string(isDisplayMode(number)
+                              ? kDisplayModeNames.at(static_cast<std::size_t>(number)).code
+                              : kUnknown);
 }
 
 }  // namespace talvex

@@ -48,9 +48,27 @@ constexpr bool isIntegerMode(std::int32_t number) {
     return number >= mode::HEX && number <= mode::BIN;
 }
 
-inline constexpr auto kDisplayModeNames =
-    tableOfModes<std::u16string_view>({u"FIX", u"SCI", u"ENG", u"MON", u"FRC", u"CAR", u"HMS",
-                                       u"DMS", u"HEX", u"DEC", u"OCT", u"BIN", u"IRR"});
+// The three letters of a mode, and what they stand for.
+struct DisplayModeName {
+    std::u16string_view code;
+    std::u16string_view meaning;
+};
+
+inline constexpr auto kDisplayModeNames = tableOfModes<DisplayModeName>({
+    {u"FIX", u"fixed number of decimals"},
+    {u"SCI", u"scientific, with an exponent"},
+    {u"ENG", u"engineering, exponents in steps of three"},
+    {u"MON", u"money, X itself is rounded"},
+    {u"FRC", u"fractions"},
+    {u"CAR", u"carpentry, marks of a folding rule"},
+    {u"HMS", u"hours, minutes, seconds"},
+    {u"DMS", u"degrees, minutes, seconds"},
+    {u"HEX", u"hexadecimal, 32 bits"},
+    {u"DEC", u"decimal integers, 32 bits"},
+    {u"OCT", u"octal, 32 bits"},
+    {u"BIN", u"binary, 32 bits"},
+    {u"IRR", u"irrational, multiples of \u03C0, \u221A2, \u221A3 and e"},
+});
 
 // The three letters of a mode; "???" for any other number.
 std::u16string displayModeName(std::int32_t number);

@@ -13,9 +13,11 @@ struct NSMenu {
 };
 
 // One line of a menu. The tag is the value that a choice of the item stands for. An item without a
-// title is a line between groups; one with a menu of its own opens it and has no action.
+// title is a line between groups; one with a menu of its own opens it and has no action. The
+// subtitle says in more words what the title stands for.
 struct NSMenuItem {
     std::u16string title;
+    std::u16string subtitle = {};
     int tag = 0;
     std::function<void(const NSMenuItem&)> action;
     int state = 0;  // 1 shows a check mark

@@ -18,6 +18,11 @@ QList<QKeySequence> shortcutsOf(const NSMenuItem& item) {
     return keys;
 }
 
+QString fullTitle(const NSMenuItem& item) {
+    const QString title = toQString(item.title);
+    return item.subtitle.empty() ? title : title + QStringLiteral(": ") + toQString(item.subtitle);
+}
+
 }  // namespace
 
 void fillMenu(QMenu& menu, const NSMenu& record) {
@@ -26,7 +31,7 @@ void fillMenu(QMenu& menu, const NSMenu& record) {
             menu.addSeparator();
             continue;
         }
-        const QString title = toQString(item.title);
+        const QString title = fullTitle(item);
         if (!item.submenu.items.empty()) {
             QMenu* const submenu = menu.addMenu(title);
             submenu->setFont(menu.font());

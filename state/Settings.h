@@ -47,11 +47,15 @@ struct Settings {
 struct Choice {
     constexpr Choice() = default;
     template <class Value>
-    constexpr Choice(std::u16string_view choiceTitle, Value choiceValue)
-        : title(choiceTitle), value(static_cast<std::int32_t>(choiceValue)) {}
+    constexpr Choice(std::u16string_view choiceTitle, Value choiceValue,
+                     std::u16string_view titleMeaning = {})
+        : title(choiceTitle),
+          value(static_cast<std::int32_t>(choiceValue)),
+          meaning(titleMeaning) {}
 
     std::u16string_view title;
     std::int32_t value = 0;
+    std::u16string_view meaning;  // of a title that is a code
 };
 
 // The menu that holds the item of a setting, in the order of the rows.
@@ -74,16 +78,18 @@ struct SettingRow {
 inline constexpr auto kModeChoices = [] {
     std::array<Choice, mode::count> choices{};
     for (std::int32_t number = 0; number < mode::count; ++number) {
-        choices.at(static_cast<std::size_t>(number)) = {
-            kDisplayModeNames.at(static_cast<std::size_t>(number)), number};
+        const DisplayModeName& name = kDisplayModeNames.at(static_cast<std::size_t>(number));
+        choices.at(static_cast<std::size_t>(number)) = {name.code, number, name.meaning};
     }
     return choices;
 }();
-inline constexpr auto kAngleChoices = std::to_array<Choice>({{u"RAD", AngleMode::rad},
-                                                             {u"DEG", AngleMode::deg},
-                                                             {u"GRD", AngleMode::grd},
-                                                             {u"HRS", AngleMode::hrs},
-                                                             {u"REV", AngleMode::rev}});
+inline constexpr auto kAngleChoices = std::to_array<Choice>({
+    {u"RAD", AngleMode::rad, u"radians, 2\u03C0 in a turn"},
+    {u"DEG", AngleMode::deg, u"degrees, 360 in a turn"},
+    {u"GRD", AngleMode::grd, u"grads, 400 in a turn"},
+    {u"HRS", AngleMode::hrs, u"hours, 24 in a turn"},
+    {u"REV", AngleMode::rev, u"revolutions"},
+});
 inline constexpr auto kDigitChoices = [] {
     constexpr std::u16string_view kDigits = u"0123456789";
     std::array<Choice, kDigits.size()> choices{};

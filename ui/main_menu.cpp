@@ -178,6 +178,7 @@ NSMenu choicesMenu(Controller& controller, const SettingRow& setting) {
     for (const Choice& choice : setting.choices) {
         NSMenuItem item;
         item.title = controller.localized(choice.title);
+        item.subtitle = choice.meaning.empty() ? u"" : controller.localized(choice.meaning);
         item.tag = choice.value;
         item.action = [&controller, &setting](const NSMenuItem& chosen) {
             controller.choose(setting, chosen.tag);
