@@ -30,6 +30,9 @@ class DYXCalculator {
     // the press used up.
     bool press(const Comand& command);
 
+    // Whether the input mode takes what the command enters; one that enters nothing is taken.
+    [[nodiscard]] bool takesEntryOf(const Comand& command) const;
+
     // Shows the registers on the lines.
     void updateDisplay();
     // Makes the lines Y, Z, T and C follow X; C groups no digits.

@@ -13,13 +13,33 @@ namespace {
 // Of all modes.
 constexpr std::string_view kDigits = "0123456789ABCDEFabcdef";
 
-// A sign and two digits.
+// Of a command that sets one: a sign and two digits.
+std::array<char, 3> exponentOf(const Comand& command) {
+    return {characterOf(command.action, 1), characterOf(command.action, 2),
+            characterOf(command.action, 3)};
+}
+
 bool isExponent(std::string_view text) {
     return std::string_view("+-").find(text[0]) != std::string_view::npos &&
            text.find_first_not_of("0123456789", 1) == std::string_view::npos;
 }
 
 }  // namespace
+
+bool DYXCalculator::takesEntryOf(const Comand& command) const {
+    if (command.category != fourCC("data")) {
+        return true;
+    }
+    const std::array exponent = exponentOf(command);
+    const char kind = characterOf(command.action, 0);
+    if (command.action == fourCC("EEX ") ||
+        (kind == 'E' && isExponent({exponent.data(), exponent.size()}))) {
+        return xDisplay_->canSetTo1E0();
+    }
+    return command.action == fourCC(".   ")
+               ? xDisplay_->canSetToDecimal()
+               : kind != 'N' || xDisplay_->canSetToCharacter(characterOf(command.action, 3));
+}
 
 bool DYXCalculator::doCommandDataEntry(const Comand& command) {
     struct Row {
@@ -100,8 +120,7 @@ void DYXCalculator::doCommandDataEntryEEX() {
 }
 
 bool DYXCalculator::doCommandDataEntrySetExponent(const Comand& command) {
-    const std::array exponent{characterOf(command.action, 1), characterOf(command.action, 2),
-                              characterOf(command.action, 3)};
+    const std::array exponent = exponentOf(command);
     const std::string_view text(exponent.data(), exponent.size());
     const bool isEntering = now_.inputState == InputState::entering;
     if (isEntering && xDisplay_->canToggleInExponent()) {

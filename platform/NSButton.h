@@ -52,6 +52,10 @@ class NSButton : public NSView {
     [[nodiscard]] bool toggles() const { return toggles_; }
     void setToggles(bool toggles) { toggles_ = toggles; }
 
+    // A button that looks as if it did nothing, and still can be clicked.
+    [[nodiscard]] bool appearsDisabled() const { return appearsDisabled_; }
+    void setAppearsDisabled(bool appearsDisabled) { update(appearsDisabled_, appearsDisabled); }
+
     void setAction(std::function<void(NSButton&)> action) { action_ = std::move(action); }
     // The mouse went down on the button, before any click.
     virtual void mouseDown() {}
@@ -67,6 +71,7 @@ class NSButton : public NSView {
     std::uint32_t highlightsBy_ = NSPushInCellMask;
     std::uint32_t showsStateBy_ = NSNoCellMask;
     bool toggles_ = false;
+    bool appearsDisabled_ = false;
     std::function<void(NSButton&)> action_;
 };
 

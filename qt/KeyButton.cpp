@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kRadius = 4.0;
 constexpr double kTextMargin = 2.0;
+constexpr double kDimmed = 0.4;
 
 }  // namespace
 
@@ -41,6 +42,7 @@ void KeyButton::paintEvent(QPaintEvent* /*event*/) {
                                          : key.face;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(record_.appearsDisabled() ? kDimmed : 1.0);
     const double line = scale().line();
     painter.setPen(QPen(ground.darker(isDown() ? 125 : 118), line));
     painter.setBrush(ground);
@@ -50,6 +52,7 @@ void KeyButton::paintEvent(QPaintEvent* /*event*/) {
     const double margin = scale().exactly(kTextMargin);
     const QRectF inside = QRectF(face()).adjusted(margin, 0.0, -margin, 0.0);
     paintTitle(painter, isDown() ? inside.translated(0.0, line) : inside, key.text);
+    painter.setOpacity(1.0);
     paintFocusRing(painter, kRadius);
 }
 

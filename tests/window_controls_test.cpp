@@ -59,6 +59,21 @@ TEST_F(WindowControls, SixKeysCarryLettersInHexInputAndExponentsElsewhere) {
     }
 }
 
+TEST_F(WindowControls, DimsJustTheKeysThatTheInputModeRefuses) {
+    for (std::int32_t mode = 0; mode < mode::count; ++mode) {
+        choose<&Settings::inputDisplayMode>(mode);
+        for (const Key& key : views.keyPad.keys()) {
+            if (key.keyClass == KeyClass::key) {
+                setX(1.0);
+                const int beeps = platform.beeps;
+                const bool isDim = key.button->appearsDisabled();
+                key.button->performClick();
+                EXPECT_EQ(platform.beeps > beeps, isDim) << mode;
+            }
+        }
+    }
+}
+
 TEST_F(WindowControls, TheLockDecidesWhetherThereIsAnOutputMode) {
     NSButton& lock = views.keyPad.lockButton();
     for (const int isOpen : {0, 1, 0}) {

@@ -77,6 +77,9 @@ void Controls::showModes(const Settings& settings) {
             views_.keyPad.view()->renewStatusLine(*button, hotKeys_);
         }
     }
+    for (const Key& key : views_.keyPad.keys()) {
+        key.button->setAppearsDisabled(!calculator_.takesEntryOf(key.button->command()));
+    }
 }
 
 void Controls::showDecimalSeparator(char16_t separator) {
