@@ -66,6 +66,7 @@ int main(int argc, char** argv) {
     talvex::Scale scale;
     talvex::HelpPresenter help(controller, scale);
     talvex::CalculatorWindow window(controller, scale);
+    platform.setShowAlert([&window] { window.showAlert(); });
     const talvex::TerminationSignals terminationSignals;
     connectApplication(application, controller, window);
     window.show();

@@ -23,15 +23,15 @@ BodyWidget::BodyWidget(DYXWindowController& controller, Scale& scale, Host host,
       host_(std::move(host)),
       titleBar_(new TitleBar(controller, scale, this)),
       content_(new QWidget(this)),
+      display_(new DisplayWidget(controller, scale, content_)),
       stillPicture_(new QLabel(this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    auto* const display = new DisplayWidget(controller, scale, content_);
     KeyPad& keyPad = controller.views().keyPad;
     auto* const keys = new PanelWidget(*keyPad.view(), keyPad.keys(), scale, content_);
     new StatusFieldWidget(*keyPad.view()->statusField(), scale, content_,
                           controller.views().contentView.get());
     for (QWidget* const area :
-         {static_cast<QWidget*>(keys), static_cast<QWidget*>(display), titleBar_}) {
+         {static_cast<QWidget*>(keys), static_cast<QWidget*>(display_), titleBar_}) {
         FocusWalk::markArea(*area);
     }
     titleBar_->raise();
@@ -60,6 +60,8 @@ void BodyWidget::takeSize() {
     followRecord();
     content_->resize(size() - QSize(0, bar()));
 }
+
+void BodyWidget::flashDisplay() { display_->flash(); }
 
 void BodyWidget::prepareMotion() {
     if (isVisible()) {

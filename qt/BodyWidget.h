@@ -11,6 +11,8 @@
 
 namespace talvex {
 
+class DisplayWidget;
+
 // The body of the window: the title bar and the content, which cover whatever lies below. A change
 // of its size is a motion if it was announced as one.
 class BodyWidget final : public QWidget {
@@ -33,6 +35,7 @@ class BodyWidget final : public QWidget {
     void followRecord();
     // The same at once, without a motion.
     void takeSize();
+    void flashDisplay();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -47,6 +50,7 @@ class BodyWidget final : public QWidget {
     Host host_;
     QWidget* titleBar_;
     QWidget* content_;
+    DisplayWidget* display_;
     QLabel* stillPicture_;
     QPixmap picture_;
     double displayHeight_ = 0.0;

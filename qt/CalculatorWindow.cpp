@@ -165,6 +165,8 @@ QRegion CalculatorWindow::visibleRegion() const {
     return region;
 }
 
+void CalculatorWindow::showAlert() { body_->flashDisplay(); }
+
 void CalculatorWindow::windowWillAnimate(const NSWindow& /*window*/) { body_->prepareMotion(); }
 
 void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {

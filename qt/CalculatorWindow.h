@@ -27,6 +27,9 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void windowDidChange(const NSWindow& window) override;
     void windowWillAnimate(const NSWindow& window) override;
 
+    // What the user hears as a beep is to be seen, too.
+    void showAlert();
+
     // The body, and the body with what shows of the drawers, in the top level.
     [[nodiscard]] QRect bodyRect() const;
     [[nodiscard]] QRegion visibleRegion() const;

@@ -7,6 +7,12 @@
 #include "qt/palette.h"
 
 namespace talvex {
+namespace {
+
+constexpr int kFlashMilliseconds = 150;
+const QColor kFlash(0x89, 0x13, 0x15, 0x38);
+
+}  // namespace
 
 DisplayWidget::DisplayWidget(DYXWindowController& controller, Scale& scale, QWidget* parent)
     : QWidget(parent), record_(*controller.views().displayView), scale_(scale) {
@@ -20,6 +26,9 @@ DisplayWidget::DisplayWidget(DYXWindowController& controller, Scale& scale, QWid
          {views.angleModePopUp.get(), views.inputModePopUp.get(), views.outputModePopUp.get()}) {
         new PopUpWidget(*popUp, scale, this);
     }
+    flash_.setSingleShot(true);
+    flash_.setInterval(kFlashMilliseconds);
+    connect(&flash_, &QTimer::timeout, this, [this] { update(); });
     record_.setObserver(this);
     scale_.follow(*this);
     viewDidChange(record_);
@@ -38,11 +47,19 @@ void DisplayWidget::viewDidChange(const NSView& view) {
     update();
 }
 
+void DisplayWidget::flash() {
+    flash_.start();
+    update();
+}
+
 void DisplayWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QtGraphicsContext context(painter, scale_, record_.frame().height);
     record_.drawRect(context);
     painter.fillRect(rect(), windowColors(palette()).displayShade);
+    if (flash_.isActive()) {
+        painter.fillRect(rect(), kFlash);
+    }
 }
 
 }  // namespace talvex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QTimer>
 #include <QWidget>
 #include <array>
 #include <memory>
@@ -79,6 +80,8 @@ class DisplayWidget final : public QWidget, public NSViewObserver, public ScaleF
 
     void viewDidChange(const NSView& view) override;
     void scaleDidChange() override { viewDidChange(record_); }
+    // Shows for a moment that a key was refused.
+    void flash();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -87,6 +90,7 @@ class DisplayWidget final : public QWidget, public NSViewObserver, public ScaleF
     DYXDisplayView& record_;
     Scale& scale_;
     std::array<LineWidget*, 4> lines_{};
+    QTimer flash_;
 };
 
 }  // namespace talvex

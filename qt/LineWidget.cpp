@@ -21,7 +21,10 @@ QFont fittingFont(const NSTextField& field, const Scale& scale, const QString& t
     return font;
 }
 
-bool isShown(const NSTextField& field) { return !field.isHidden() && !field.stringValue().empty(); }
+// An entry has a blank where no sign is.
+bool isShown(const NSTextField& field) {
+    return !field.isHidden() && !field.stringValue().empty() && field.stringValue() != u" ";
+}
 
 // A sign slot holds a hyphen; a minus sign is what a reader expects.
 QString shownText(const NSTextField& field, bool isSign) {

@@ -59,7 +59,12 @@ QtPlatform::QtPlatform() {
 
 QtPlatform::~QtPlatform() = default;
 
-void QtPlatform::NSBeep() { QApplication::beep(); }
+void QtPlatform::NSBeep() {
+    QApplication::beep();
+    if (showAlert_) {
+        showAlert_();
+    }
+}
 
 // A bus that hangs would hold up the program; so another process talks to it. Where none is named,
 // the library would start one.

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QTranslator>
+#include <functional>
 #include <memory>
+#include <utility>
 
 #include "platform/Platform.h"
 
@@ -17,6 +19,8 @@ class QtPlatform final : public Platform {
     ~QtPlatform() override;
 
     void NSBeep() override;
+    // Is called with every beep.
+    void setShowAlert(std::function<void()> showAlert) { showAlert_ = std::move(showAlert); }
     // On standard error, and by the desktop where it shows notifications.
     void deliverNotification(const std::string& text) override;
     // Shown when the logging category "talvex" is switched on.
@@ -41,6 +45,7 @@ class QtPlatform final : public Platform {
     SelectionReader* selectionReader();
 
     QTranslator titles_;
+    std::function<void()> showAlert_;
     std::unique_ptr<SelectionReader> selectionReader_;
 };
 
