@@ -15,7 +15,8 @@ bool haveSameBits(const Numbers& left, const Numbers& right) {
 }
 
 auto restOf(const CalculatorState& state) {
-    return std::tie(state.modifiers, state.inputState, state.entry, state.lastCommand);
+    return std::tie(state.modifiers, state.inputState, state.entry, state.lastCommand,
+                    state.unitOfX);
 }
 
 }  // namespace

@@ -42,6 +42,7 @@ struct CalculatorState {
     InputState inputState = InputState::lifting;
     EntryState entry;
     Comand lastCommand;
+    Comand unitOfX;  // the unit key in whose unit X is; none once X has changed
 
     // Numbers are the same if their bits are: an error value equals itself, 0 doesn't equal -0.
     bool operator==(const CalculatorState& other) const;

@@ -1,6 +1,7 @@
 #include "core/DYXCalculator.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "display/display_modes.h"
 #include "numeric/DYXRoundToDigits.h"
@@ -92,8 +93,10 @@ bool DYXCalculator::doCommand(const Comand& command) {
     const auto* const row = std::find_if(
         kCategories.begin(), kCategories.end(),
         [&command](const Row& candidate) { return candidate.category == command.category; });
+    const double oldX = now_.stack.x();
     const bool isKnown = row != kCategories.end() && (this->*row->handler)(command);
     roundMonetaryX();
+    followUnitOfX(command, isKnown, oldX);
     updateDisplay();
     now_.lastCommand = command;
     return isKnown;
@@ -120,6 +123,15 @@ void DYXCalculator::roundMonetaryX() {
     }
 }
 
+void DYXCalculator::followUnitOfX(const Comand& command, bool isKnown, double oldX) {
+    const auto bits = [](double number) { return std::bit_cast<std::uint64_t>(number); };
+    if (isKnown && command.category == fourCC("conv")) {
+        now_.unitOfX = command;
+    } else if (now_.inputState == InputState::entering || bits(oldX) != bits(now_.stack.x())) {
+        now_.unitOfX = {};
+    }
+}
+
 void DYXCalculator::updateRegister() {
     if (now_.inputState == InputState::entering) {
         now_.stack.x() = xDisplay_->doubleValue();
@@ -136,6 +148,9 @@ void DYXCalculator::updateDisplay() {
     yDisplay_->setOutputTo(now_.stack.reg[1]);
     zDisplay_->setOutputTo(now_.stack.reg[2]);
     tDisplay_->setOutputTo(now_.stack.reg[3]);
+    if (didUpdateDisplay_) {
+        didUpdateDisplay_();
+    }
 }
 
 void DYXCalculator::syncDisplays() {
@@ -175,6 +190,7 @@ void DYXCalculator::bringPasted(double number) {
         now_.inputState = InputState::replacing;
     }
     now_.stack.x() = number;
+    now_.unitOfX = {};
     updateDisplay();
 }
 
@@ -189,6 +205,7 @@ void DYXCalculator::finishEntry() {
 void DYXCalculator::restore(const DYXStack& stack,
                             std::span<const double, kSavedRegisters> memory) {
     now_.stack = stack;
+    now_.unitOfX = {};
     std::copy(memory.begin(), memory.end(), now_.mem.begin());
 }
 

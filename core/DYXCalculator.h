@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <utility>
@@ -35,6 +36,10 @@ class DYXCalculator {
 
     // Shows the registers on the lines.
     void updateDisplay();
+    // Is called whenever the lines show the registers anew.
+    void setDidUpdateDisplay(std::function<void()> didUpdate) {
+        didUpdateDisplay_ = std::move(didUpdate);
+    }
     // Makes the lines Y, Z, T and C follow X; C groups no digits.
     void syncDisplays();
 
@@ -46,6 +51,7 @@ class DYXCalculator {
     [[nodiscard]] const auto& converted() const { return now_.converted; }
     [[nodiscard]] InputState inputState() const { return now_.inputState; }
     [[nodiscard]] const Comand& lastCommand() const { return now_.lastCommand; }
+    [[nodiscard]] const Comand& unitOfX() const { return now_.unitOfX; }
     [[nodiscard]] const Modifiers& modifiers() const { return now_.modifiers; }
     void setModifiers(const Modifiers& modifiers) { now_.modifiers = modifiers; }
 
@@ -75,6 +81,7 @@ class DYXCalculator {
     // Brings X up to date with the entry, if one is live. Doesn't change the input state.
     void updateRegister();
     void roundMonetaryX();
+    void followUnitOfX(const Comand& command, bool isKnown, double oldX);
     void clearUsedModifiers(const Comand& command);
 
     bool doCommandStack(const Comand& command);
@@ -122,6 +129,7 @@ class DYXCalculator {
     CalculatorState now_;
     AngleMode angleMode_ = AngleMode::rad;
     bool useHPStylePowerAndLogs_ = true;
+    std::function<void()> didUpdateDisplay_;
     std::unique_ptr<DYXInputDisplay> xDisplay_;
     std::unique_ptr<DYXOutputDisplay> yDisplay_;
     std::unique_ptr<DYXOutputDisplay> zDisplay_;

@@ -22,7 +22,8 @@ KeyButton::KeyButton(const Key& key, Scale& scale, QWidget* parent)
       keyClass_(key.keyClass),
       observer_(*this, scale, record_, [this] { setChecked(record_.state() != 0); },
                 {.leastSide = kLeastSide}) {
-    setCheckable(isModifier());
+    // A unit key that is lit does not go out by a click.
+    setCheckable(keyClass_ != KeyClass::key);
     setChecked(record_.state() != 0);
     connect(this, &QAbstractButton::pressed, this, [this] { record_.mouseDown(); });
     connect(this, &QAbstractButton::clicked, this, [this] {
@@ -31,10 +32,10 @@ KeyButton::KeyButton(const Key& key, Scale& scale, QWidget* parent)
     });
 }
 
-bool KeyButton::isModifier() const { return record_.showsStateBy() != NSNoCellMask; }
+bool KeyButton::showsState() const { return record_.showsStateBy() != NSNoCellMask; }
 
 void KeyButton::paintEvent(QPaintEvent* /*event*/) {
-    const bool isLit = isModifier() && record_.state() != 0;
+    const bool isLit = showsState() && record_.state() != 0;
     const WindowColors& colors = windowColors(palette());
     const KeyColors& key = isLit ? colors.litKey(group_) : colors.key(group_);
     const QColor ground = isDown()       ? pressedFace(key.face)

@@ -22,7 +22,7 @@ class KeyButton final : public ControlButton {
     void nextCheckState() override {}
 
   private:
-    [[nodiscard]] bool isModifier() const;
+    [[nodiscard]] bool showsState() const;
     void paintTitle(QPainter& painter, const QRectF& rect, const QColor& color) const;
 
     CommandButton& record_;

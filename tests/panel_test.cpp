@@ -2,6 +2,7 @@
 // drawer.
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <set>
 #include <string>
@@ -168,6 +169,29 @@ TEST_F(Panels, LightBothStoreKeysOfAModifier) {
         key(command).performClick();
         EXPECT_EQ(padKey(u"memoSTO+").state(), state);
         EXPECT_EQ(key(u"memoSTO+").state(), state);
+    }
+}
+
+TEST_F(Panels, LightTheUnitOfXUntilXChanges) {
+    constexpr auto kSteps = std::to_array<std::pair<const char16_t*, const char16_t*>>(
+        {{u"dataN005", u""},
+         {u"convlen feet", u"convlen feet"},
+         {u"convlen m   ", u"convlen m   "},
+         {u"dataENT ", u"convlen m   "},
+         {u"dataCHS ", u""},
+         {u"convtempkelv", u"convtempkelv"},
+         {u"dataN001", u""},
+         {u"convenerKelv", u"convenerKelv"},
+         {u"stacROLD", u""}});
+    for (const auto& [command, lit] : kSteps) {
+        controller.click(commandFromString(command));
+        Text shown;
+        for (const Key& each : views.allKeys()) {
+            const bool isUnit = each.button->command().category == fourCC("conv");
+            shown += isUnit && each.button->state() != 0 ? stringFromCommand(each.button->command())
+                                                         : u"";
+        }
+        EXPECT_EQ(shown, lit);
     }
 }
 

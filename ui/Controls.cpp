@@ -36,6 +36,7 @@ constexpr auto kModifierKeys = std::to_array<ModifierKey>({
 Controls::Controls(WindowViews& views, HotKeys& hotKeys, DYXCalculator& calculator)
     : views_(views), hotKeys_(hotKeys), calculator_(calculator) {
     findModifierKeys();
+    calculator_.setDidUpdateDisplay([this] { showUnitOfX(); });
 }
 
 void Controls::findModifierKeys() {
@@ -52,6 +53,25 @@ void Controls::findModifierKeys() {
 void Controls::showModifiers() {
     for (const ModifierButton& modifier : modifierButtons_) {
         modifier.button->setState(modifier.isOn(calculator_.modifiers()) ? 1 : 0);
+    }
+}
+
+void Controls::showUnitOfX() {
+    const Comand& unit = calculator_.unitOfX();
+    if (unit == (litUnit_ != nullptr ? litUnit_->command() : Comand{})) {
+        return;
+    }
+    if (litUnit_ != nullptr) {
+        litUnit_->setState(0);
+        litUnit_ = nullptr;
+    }
+    for (const std::vector<Key>& page : views_.conversionPanel.pages) {
+        for (const Key& key : page) {
+            if (key.button->command() == unit) {
+                litUnit_ = key.button.get();
+                litUnit_->setState(1);
+            }
+        }
     }
 }
 

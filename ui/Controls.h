@@ -35,11 +35,13 @@ class Controls {
     void showModes(const Settings& settings);
     void showDecimalSeparator(char16_t separator);
     void showPowerAndLogs(bool useHPStyle);
+    void showUnitOfX();
 
     WindowViews& views_;
     HotKeys& hotKeys_;
     DYXCalculator& calculator_;
     std::vector<ModifierButton> modifierButtons_;
+    CommandButton* litUnit_ = nullptr;
     char16_t shownSeparator_ = 0;
 };
 

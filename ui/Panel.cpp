@@ -184,6 +184,7 @@ std::vector<Key> unitKeys(const UnitPage& page, const KeyGrid& grid, Platform& p
                                 .title = std::u16string(unit.title),
                                 .hint = platform.localizedString(unit.name)},
                                platform));
+        keys.back().button->setShowsStateBy(NSChangeBackgroundCellMask);
         keys.back().button->setAutoresizingMask(NSViewMinYMargin);
     }
     return keys;
