@@ -148,6 +148,10 @@
             <translation>Acceleration</translation>
         </message>
         <message>
+            <source>Always on Top</source>
+            <translation>Always on Top</translation>
+        </message>
+        <message>
             <source>Angle</source>
             <translation>Angle</translation>
         </message>

@@ -38,6 +38,7 @@ class HeadlessPlatform final : public Platform {
     void setPasteboardString(const std::u16string& text) override { pasteboard = text; }
     [[nodiscard]] std::string NSHomeDirectory() const override { return home; }
     [[nodiscard]] std::vector<NSRect> visibleFramesOfScreens() const override { return screens; }
+    [[nodiscard]] bool canFloatWindows() const override { return floatsWindows; }
     [[nodiscard]] std::uint32_t GetCurrentButtonState() const override { return mouseButtons; }
     void openURL(const std::u16string& url) override { openedURLs.push_back(url); }
     [[nodiscard]] std::string resourcePath() const override { return resources; }
@@ -57,6 +58,7 @@ class HeadlessPlatform final : public Platform {
     PasteboardAnswer pasteboardAnswer;
     std::string home;  // none, unless a test gives one
     std::vector<NSRect> screens{{.width = 1920.0, .height = 1080.0}};
+    bool floatsWindows = true;
     std::uint32_t mouseButtons = 0;
     std::vector<std::u16string> openedURLs;
     std::string resources = "/resources";

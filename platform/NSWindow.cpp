@@ -64,6 +64,12 @@ void NSWindow::orderOut() {
     notify();
 }
 
+void NSWindow::setLevel(NSWindowLevel level) {
+    if (level != std::exchange(level_, level) && observer_ != nullptr) {
+        observer_->windowDidChangeLevel(*this);
+    }
+}
+
 void NSWindow::setContentView(std::shared_ptr<NSView> view) {
     contentView_ = std::move(view);
     contentView_->window_ = this;

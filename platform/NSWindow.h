@@ -25,11 +25,15 @@ class NSResponder {
 
 class NSWindow;
 
+// Whether a window stands among the others, or above them all.
+enum class NSWindowLevel { normal, floating };
+
 class NSWindowObserver {
   public:
     virtual void windowDidChange(const NSWindow& window) = 0;
     // The window is to come to the front of the others.
     virtual void windowDidOrderFront(const NSWindow& /*window*/) {}
+    virtual void windowDidChangeLevel(const NSWindow& /*window*/) {}
     // The next change is to be a motion.
     virtual void windowWillAnimate(const NSWindow& /*window*/) {}
 
@@ -60,6 +64,9 @@ class NSWindow {
     [[nodiscard]] std::int32_t size() const { return size_; }
     void setSize(std::int32_t percent);
 
+    [[nodiscard]] NSWindowLevel level() const { return level_; }
+    void setLevel(NSWindowLevel level);
+
     // All of the window, title bar included.
     [[nodiscard]] NSView& frameView() { return *frameView_; }
     [[nodiscard]] NSView* contentView() const { return contentView_.get(); }
@@ -85,6 +92,7 @@ class NSWindow {
 
     std::u16string title_;
     bool visible_ = false;
+    NSWindowLevel level_ = NSWindowLevel::normal;
     NSRect frame_;
     std::int32_t size_ = 0;
     std::shared_ptr<NSView> frameView_ = std::make_shared<NSView>();

@@ -109,6 +109,15 @@ class ScreenPort {
     ~ScreenPort() = default;
 };
 
+class WindowLevelPort {
+  public:
+    // Whether the desktop can keep a window above all others, as it is at this moment.
+    [[nodiscard]] virtual bool canFloatWindows() const = 0;
+
+  protected:
+    ~WindowLevelPort() = default;
+};
+
 class MousePort {
   public:
     // The mouse buttons that are down; the primary one is bit 0.
@@ -156,6 +165,7 @@ class Platform : public AlertPort,
                  public PasteboardPort,
                  public FilePort,
                  public ScreenPort,
+                 public WindowLevelPort,
                  public MousePort,
                  public WorkspacePort,
                  public BundlePort,

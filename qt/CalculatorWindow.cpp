@@ -87,6 +87,7 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller, Scale& scale
     showPieces();
     create();
     topLevel_.didCreate();
+    windowDidChangeLevel(controller_.views().window);
     connect(windowHandle(), &QWindow::screenChanged, this, [this] { topLevel_.tellMargins(); });
     windowHandle()->installEventFilter(this);
     adoptedWatch_.setInterval(kAdoptedWatchMilliseconds);
@@ -168,6 +169,10 @@ QRegion CalculatorWindow::visibleRegion() const {
 void CalculatorWindow::showAlert() { body_->flashDisplay(); }
 
 void CalculatorWindow::windowWillAnimate(const NSWindow& /*window*/) { body_->prepareMotion(); }
+
+void CalculatorWindow::windowDidChangeLevel(const NSWindow& window) {
+    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, window.level() == NSWindowLevel::floating);
+}
 
 void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
     takeSize();

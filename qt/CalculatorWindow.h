@@ -26,6 +26,7 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
 
     void windowDidChange(const NSWindow& window) override;
     void windowWillAnimate(const NSWindow& window) override;
+    void windowDidChangeLevel(const NSWindow& window) override;
 
     // What the user hears as a beep is to be seen, too.
     void showAlert();

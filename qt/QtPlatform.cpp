@@ -17,6 +17,7 @@
 #include "qt/SelectionReader.h"
 #include "qt/conversions.h"
 #include "qt/screen_places.h"
+#include "qt/x_server.h"
 
 namespace talvex {
 namespace {
@@ -134,6 +135,10 @@ std::vector<NSRect> QtPlatform::visibleFramesOfScreens() const {
         frames.push_back(placeOfRecord(screen->availableGeometry()));
     }
     return frames;
+}
+
+bool QtPlatform::canFloatWindows() const {
+    return isSupportedByWindowManager("_NET_WM_STATE_ABOVE");
 }
 
 std::uint32_t QtPlatform::GetCurrentButtonState() const {

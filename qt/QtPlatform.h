@@ -34,6 +34,7 @@ class QtPlatform final : public Platform {
     void setPasteboardString(const std::u16string& text) override;
     [[nodiscard]] std::string NSHomeDirectory() const override;
     [[nodiscard]] std::vector<NSRect> visibleFramesOfScreens() const override;
+    [[nodiscard]] bool canFloatWindows() const override;
     [[nodiscard]] std::uint32_t GetCurrentButtonState() const override;
     void openURL(const std::u16string& url) override;
     [[nodiscard]] std::string resourcePath() const override;

@@ -39,6 +39,7 @@ struct Settings {
     std::int32_t windowSize = 0;  // percent; 0 as the desktop's text
     bool statusLinesEnabled = true;
     bool animateWindow = true;
+    bool alwaysOnTop = false;
 
     bool operator==(const Settings&) const = default;
 };
@@ -202,6 +203,9 @@ inline constexpr auto kSettings = std::to_array<SettingRow>({
      .menu = SettingMenu::view,
      .title = u"Animate Window Sizing",
      .refresh = Refresh::nothing},
+    {.saved = saved<&Settings::alwaysOnTop>("alwaysOnTop"),
+     .menu = SettingMenu::view,
+     .title = u"Always on Top"},
 });
 static_assert(hasARowForEachMember<Settings>(kSettings,
                                              [](const SettingRow& row) { return row.saved; }));

@@ -57,7 +57,7 @@ def full_state(number):
         conversionTabSelection"""
     state |= {key: place - 3 for place, key in enumerate(integers.split())}
     booleans = """memoryWasOpen constantsWasOpen conversionWasOpen functionsWasOpen animateWindow
-        useHPStylePowerAndLogs reduceCarpentryFractions unlockInputAndOutputModes displayIrrationals
+        alwaysOnTop useHPStylePowerAndLogs reduceCarpentryFractions unlockInputAndOutputModes displayIrrationals
         helpPanelVisible keyPadHidden registerLabelsHidden autoHideXLabel statusLinesEnabled
         showStatusLine includeDigitGroupingWhenCopying"""
     state |= {key: place % 2 == 0 for place, key in enumerate(booleans.split())}

@@ -90,6 +90,19 @@ TEST_F(WindowControls, TheLockDecidesWhetherThereIsAnOutputMode) {
               u"FIX");
 }
 
+TEST_F(WindowControls, TheViewMenuKeepsTheWindowOnTopWhereTheDesktopCan) {
+    NSMenuItem& item = views.menu.items[5].submenu.items.back();
+    ASSERT_EQ(item.title, u"Always on Top");
+    for (const bool can : {true, false}) {
+        platform.floatsWindows = can;
+        item.action(item);
+        EXPECT_EQ(views.window.level(), can ? NSWindowLevel::floating : NSWindowLevel::normal);
+        validateMenu(views.menu);
+        EXPECT_EQ(item.state, can ? 1 : 0);
+        EXPECT_EQ(item.enabled, can);
+    }
+}
+
 TEST_F(WindowControls, PowerKeysShowTheOrderOfTheirOperands) {
     for (const Text order : {u"yx", u"xy"}) {
         choose<&Settings::useHPStylePowerAndLogs>(order == u"yx" ? 1 : 0);

@@ -139,6 +139,7 @@ void DYXWindowController::refresh() {
     line.setTextFont(lineFontOf(settings_));
     calculator_->syncDisplays();
     views_.window.setSize(settings_.windowSize);
+    views_.window.setLevel(settings_.alwaysOnTop ? NSWindowLevel::floating : NSWindowLevel::normal);
     controls_.showSettings(settings_, decimalSeparatorOf(settings_, system_));
     controls_.showLabels(settings_, layout_);
     calculator_->updateDisplay();

@@ -73,6 +73,8 @@ class DYXWindowController final : public NSResponder {
 
     void windowDidResize() override { drawers_.windowDidResize(); }
 
+    [[nodiscard]] bool canStayOnTop() const { return platform_.canFloatWindows(); }
+
     // A title in the user's language.
     [[nodiscard]] std::u16string localized(std::u16string_view key) const {
         return platform_.localizedString(key);

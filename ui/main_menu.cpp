@@ -42,12 +42,14 @@ NSMenuItem alternatingItem(NSMenuItem item, const Controller& controller, Questi
 
 // A setting that is on or off.
 NSMenuItem switchItem(Controller& controller, const SettingRow& setting) {
+    const bool needsDesktop = &setting == &settingRow<&Settings::alwaysOnTop>();
     NSMenuItem item;
     item.title = controller.localized(setting.title);
     item.action = [&controller, &setting](const NSMenuItem&) {
         controller.choose(setting, setting.saved.get(controller.settings()) == 0 ? 1 : 0);
     };
-    item.validation = [&controller, &setting](NSMenuItem& shown) {
+    item.validation = [&controller, &setting, needsDesktop](NSMenuItem& shown) {
+        shown.enabled = !needsDesktop || controller.canStayOnTop();
         const bool isOn = setting.saved.get(controller.settings()) != 0;
         if (setting.titleWhenOn.empty()) {
             shown.state = isOn ? 1 : 0;
@@ -55,7 +57,6 @@ NSMenuItem switchItem(Controller& controller, const SettingRow& setting) {
             shown.title = controller.localized(isOn ? setting.titleWhenOn : setting.title);
         }
     };
-    item.validation(item);
     return item;
 }
 
