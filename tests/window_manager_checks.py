@@ -160,7 +160,7 @@ def check_drawers(desk):
     may make some, but has to come back."""
     clicks = [name for name in DRAWER_KEYS for _ in range(2)] + [*DRAWER_KEYS, *DRAWER_KEYS]
     faults = []
-    for where in ("middle", "top left", "bottom right"):
+    for where in places(desk.free_area()):
         with Calculator(desk) as calculator:
             corner = calculator.move(*places(desk.free_area())[where])
             are_open = set()
@@ -176,4 +176,54 @@ def check_drawers(desk):
                 if not is_near(step) and (where == "middle" or not are_open):
                     faults.append(f"{where}: {step} after {name}")
                     break
+    return faults
+
+
+def check_open_drawers(desk):
+    """Drawers that are open at the end are at the next start, and the window stands still meanwhile."""
+    with Calculator(desk) as calculator:
+        corner, faults = calculator.place(), []
+        for what in ("opened", "restarted", "closed"):
+            if what == "restarted":
+                calculator.end()
+                calculator.start()
+                time.sleep(0.5)
+            else:
+                for key in DRAWER_KEYS.values():
+                    calculator.click(key, WHOLE_BODY[1] - 11)
+                    rest_of(calculator.seen)
+            step = way(calculator.place(), corner)
+            faults += [] if is_near(step) else [f"{what}: {step}"]
+            is_body = calculator.seen()[2:] == WHOLE_BODY
+            faults += [f"{what}: {calculator.seen()}"] if is_body != (what == "closed") else []
+    return faults
+
+
+def drag(from_place, to_place):
+    """As a hand does it, for the window manager to take hold and to offer what it has there."""
+    xdotool("mousemove", *from_place, "mousedown", 1)
+    for step in (1, 2, 3, 4):
+        xdotool("sleep", 0.1, "mousemove", *(start + (end - start) * step // 4
+                                             for start, end in zip(from_place, to_place)))
+    xdotool("sleep", 0.4, "mouseup", 1)
+
+
+def check_tiling(desk):
+    """Tiled to a half of the screen by keys or at an edge, the window keeps its size."""
+    faults, area = [], desk.free_area()
+    with Calculator(desk) as calculator:
+        middle = calculator.move(*places(area)["middle"])
+        for drawers in ((), DRAWER_KEYS):
+            for name in drawers:
+                calculator.click(DRAWER_KEYS[name], WHOLE_BODY[1] - 11)
+                rest_of(calculator.seen)
+            size = calculator.seen()[2:]
+            for how in ("super+Left", "super+Right", "super+Up", "left edge", "upper edge"):
+                grip = tuple(map(sum, zip(calculator.place(), (WHOLE_BODY[0] // 2, TITLE_BAR // 2))))
+                edge = {"left edge": (area.x, grip[1]), "upper edge": (grip[0], area.y)}.get(how)
+                drag(grip, edge) if edge else xdotool("key", how)
+                if (seen := rest_of(calculator.seen))[2:] != size:
+                    faults.append(f"{len(drawers)} drawers, {how}: {seen}")
+                if not is_near(way(calculator.move(*middle), middle)):
+                    faults.append(f"{len(drawers)} drawers, {how}: doesn't come back")
     return faults
