@@ -254,14 +254,18 @@ void CalculatorWindow::askForSize(double factor) {
         std::max(kSmallestSize, static_cast<std::int32_t>(std::lround(100.0 * factor))));
 }
 
-// With Ctrl the wheel sets the size.
+// With Ctrl the wheel sets the size; a touch pad tells a notch of it in many small parts.
 void CalculatorWindow::wheelEvent(QWheelEvent* event) {
     constexpr double kStep = 0.05;
-    const int way = event->angleDelta().y();
-    if (event->modifiers().testFlag(Qt::ControlModifier) && way != 0) {
-        askForSize(scale_.factor() + (way > 0 ? kStep : -kStep));
-    } else {
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
         event->ignore();
+        return;
+    }
+    wheelWay_ += event->angleDelta().y();
+    const int notches = wheelWay_ / QWheelEvent::DefaultDeltasPerStep;
+    if (notches != 0) {
+        wheelWay_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+        askForSize(scale_.factor() + kStep * notches);
     }
 }
 

@@ -75,6 +75,7 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     Scale& scale_;
     BodyWidget* body_ = nullptr;
     SizeGrip* sizeGrip_ = nullptr;
+    int wheelWay_ = 0;  // of a notch that isn't whole yet
     std::array<DrawerWidget*, kDrawerNames.size()> drawers_{};
     std::u16string helpOn_;
     TopLevel topLevel_;
