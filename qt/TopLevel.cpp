@@ -167,8 +167,12 @@ void TopLevel::arrive() {
 void TopLevel::moveTo(const QPoint& place) {
     if (phase_ == Phase::asked) {
         ask({place - cornerIn(coming_), size_});
-    } else {
-        window_.setGeometry(withinBorder({place - corner(), window_.size()}));
+        return;
+    }
+    const QRect geometry(place - corner(), window_.size());
+    window_.setGeometry(geometry);  // which is so to us at once
+    if (const QRect within = withinBorder(geometry); within != geometry) {
+        window_.windowHandle()->setGeometry(within);
     }
 }
 
