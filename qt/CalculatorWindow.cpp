@@ -1,57 +1,21 @@
 #include "qt/CalculatorWindow.h"
 
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "qt/BodyWidget.h"
-#include "qt/DrawerWidget.h"
 #include "qt/KeyButton.h"
-#include "qt/PanelWidget.h"
 #include "qt/SizeGrip.h"
+#include "qt/canvas_size.h"
 #include "qt/menus.h"
 #include "qt/screen_places.h"
 #include "qt/window_size.h"
-#include "ui/window_layout.h"
 
 namespace talvex {
-namespace {
-
-// How often to look whether the keys were let go of that were down when the window got the
-// keyboard.
-constexpr int kAdoptedWatchMilliseconds = 50;
-
-// The room that the drawers need on each side of the body.
-QMargins roomFor(const Drawers& drawers, const Scale& scale) {
-    const auto depth = [&](DrawerName name) {
-        const NSDrawer& drawer = drawers[name].record;
-        const NSSize& size = drawer.maxContentSize();
-        return scale.pixels(drawer.isLevel() ? size.height : size.width) +
-               scale.pixels(NSDrawer::kOuterBorder);
-    };
-    return {depth(DrawerName::constants), depth(DrawerName::conversion), depth(DrawerName::memory),
-            depth(DrawerName::functions)};
-}
-
-NSSize sizeOfBody(const WindowLayout& layout) {
-    const NSRect frame = NSWindow::frameRectForContentRect(contentFrame(layout));
-    return {frame.width, frame.height};
-}
-
-NSSize largestBody() { return sizeOfBody({.displayViewMode = 1, .showStatusLine = true}); }
-NSSize smallestBody() { return sizeOfBody({.keyPadHidden = true}); }
-
-TopLevel::Canvas canvasFor(const Drawers& drawers, const Scale& scale) {
-    return {.room = roomFor(drawers, scale),
-            .smallestBody = scale.pixels(smallestBody()),
-            .largestBody = scale.pixels(largestBody())};
-}
-
-}  // namespace
 
 CalculatorWindow::CalculatorWindow(DYXWindowController& controller, Scale& scale)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint),
@@ -65,6 +29,7 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller, Scale& scale
                  .didTakeShape = [this] { putBody(); },
                  .didArrive = [this] { didTakeShape(); }}),
       place_(topLevel_, controller.views().window, scale, [this] { return bodyRect().size(); }),
+      modifiers_(controller.views().window),
       focusWalk_(*this) {
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
@@ -90,9 +55,6 @@ CalculatorWindow::CalculatorWindow(DYXWindowController& controller, Scale& scale
     windowDidChangeLevel(controller_.views().window);
     connect(windowHandle(), &QWindow::screenChanged, this, [this] { topLevel_.tellMargins(); });
     windowHandle()->installEventFilter(this);
-    adoptedWatch_.setInterval(kAdoptedWatchMilliseconds);
-    connect(&adoptedWatch_, &QTimer::timeout, this,
-            [this] { keepModifiers(QGuiApplication::queryKeyboardModifiers()); });
 }
 
 CalculatorWindow::~CalculatorWindow() { controller_.views().window.setObserver(nullptr); }
@@ -137,34 +99,13 @@ void CalculatorWindow::makeDrawers() {
             },
         .didClose = [this] { giveBackRoom(); },
         .makeContent = {}};
-    const auto make = [&](DrawerName name, std::function<QWidget*(QWidget*)> makeContent) {
-        DrawerWidget::Host own = host;
-        own.makeContent = std::move(makeContent);
-        drawers_.at(static_cast<std::size_t>(name)) =
-            new DrawerWidget(controller_.drawers()[name].record, scale_, std::move(own), this);
-    };
-    const WindowViews& views = controller_.views();
-    const auto panel = [this](const Panel& content) {
-        return
-            [this, &content](QWidget* parent) { return makePanelWidget(content, scale_, parent); };
-    };
-    make(DrawerName::memory, panel(views.memoryPanel));
-    make(DrawerName::constants, panel(views.constantsPanel));
-    make(DrawerName::functions, panel(views.functionsPanel));
-    make(DrawerName::conversion, [this, &views](QWidget* parent) {
-        return makeConversionWidget(views.conversionPanel, scale_, parent);
-    });
+    drawers_ = std::make_unique<WindowDrawers>(controller_.drawers(), controller_.views(), scale_,
+                                               host, this);
 }
 
 QRect CalculatorWindow::bodyRect() const { return body_->geometry(); }
 
-QRegion CalculatorWindow::visibleRegion() const {
-    QRegion region(bodyRect());
-    for (const DrawerWidget* const drawer : drawers_) {
-        region += drawer->visibleRect();
-    }
-    return region;
-}
+QRegion CalculatorWindow::visibleRegion() const { return drawers_->visibleRegion() + bodyRect(); }
 
 void CalculatorWindow::showAlert() { body_->flashDisplay(); }
 
@@ -182,37 +123,26 @@ void CalculatorWindow::windowDidChange(const NSWindow& /*window*/) {
     }
 }
 
-bool CalculatorWindow::isWhole() const {
-    return std::count(drawers_.begin(), drawers_.end(), nullptr) == 0;
-}
-
 void CalculatorWindow::showPieces() {
     if (sizeGrip_ != nullptr) {
         sizeGrip_->place();
     }
-    if (!isWhole()) {
+    if (drawers_ == nullptr) {
         return;
     }
-    for (DrawerWidget* const drawer : drawers_) {
-        drawer->followBody();
-    }
+    drawers_->followBody();
     topLevel_.followBody();
     topLevel_.showOnly(visibleRegion());
 }
 
 void CalculatorWindow::openWaitingDrawers() {
-    if (isWhole()) {
-        for (DrawerWidget* const drawer : drawers_) {
-            drawer->drawerDidChange(drawer->record());
-        }
+    if (drawers_ != nullptr) {
+        drawers_->openWaiting();
     }
 }
 
 void CalculatorWindow::giveBackRoom() {
-    QRect wanted;
-    for (const DrawerWidget* const drawer : drawers_) {
-        wanted |= drawer->placeWhenOpen();
-    }
+    const QRect wanted = drawers_->placeWhenOpen();
     if (!wanted.isEmpty() || topLevel_.staysCanvas()) {
         place_.giveBackRoomBut(wanted.translated(-topLevel_.corner()));
     }
@@ -241,9 +171,7 @@ void CalculatorWindow::takeSize() {
     scale_.setFactor(factor);
     body_->takeSize();
     topLevel_.takeCanvas(canvasFor(controller_.drawers(), scale_));
-    for (DrawerWidget* const drawer : drawers_) {
-        drawer->takeSize();
-    }
+    drawers_->takeSize();
     place_.keep(place);
     showPieces();
 }
@@ -308,15 +236,8 @@ void CalculatorWindow::showEvent(QShowEvent* event) {
     activateWindow();
 }
 
-void CalculatorWindow::sendFlags() {
-    controller_.views().window.sendEvent(
-        {.type = NSFlagsChanged, .modifierFlags = heldModifiers_.flags()});
-}
-
 void CalculatorWindow::keyPressEvent(QKeyEvent* event) {
-    if (heldModifiers_.take(*event)) {
-        sendFlags();
-    }
+    modifiers_.take(*event);
     if (event->key() == Qt::Key_F10) {
         popUpMenu(controller_.views().menu,
                   body_->mapToGlobal(QPoint(0, scale_.pixels(NSWindow::kTitleBarHeight))), scale_,
@@ -331,68 +252,38 @@ void CalculatorWindow::keyPressEvent(QKeyEvent* event) {
         character && controller_.views().window.sendEvent(
                          {.type = NSKeyDown,
                           .charactersIgnoringModifiers = std::u16string(1, *character),
-                          .modifierFlags = heldModifiers_.flags()});
+                          .modifierFlags = modifiers_.flags()});
     event->setAccepted(isTaken);
 }
 
 void CalculatorWindow::keyReleaseEvent(QKeyEvent* event) {
-    if (heldModifiers_.take(*event)) {
-        sendFlags();
-    }
+    modifiers_.take(*event);
     event->ignore();
-}
-
-// A window without the keyboard hears of no release, so that no modifier may outlive that. One that
-// gets the keyboard takes over what is held, and watches it: the release may go to the window
-// manager, whose key it was.
-void CalculatorWindow::adoptModifiers() {
-    if (heldModifiers_.adopt(QGuiApplication::queryKeyboardModifiers())) {
-        sendFlags();
-    }
-    if (heldModifiers_.flags() != 0) {
-        adoptedWatch_.start();
-    }
-}
-
-void CalculatorWindow::keepModifiers(Qt::KeyboardModifiers modifiers) {
-    if (heldModifiers_.keepOnly(modifiers)) {
-        sendFlags();
-    }
-    if (heldModifiers_.flags() == 0) {
-        adoptedWatch_.stop();
-    }
 }
 
 // A click says which modifier keys are down, as a key does.
 bool CalculatorWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == windowHandle() && event->type() == QEvent::MouseButtonPress) {
-        keepModifiers(static_cast<QMouseEvent*>(event)->modifiers());
+        modifiers_.keepOnly(static_cast<QMouseEvent*>(event)->modifiers());
     }
     return QWidget::eventFilter(watched, event);
-}
-
-void CalculatorWindow::dropModifiers() {
-    adoptedWatch_.stop();
-    if (heldModifiers_.clear()) {
-        sendFlags();
-    }
 }
 
 void CalculatorWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::ActivationChange) {
-        isActiveWindow() ? adoptModifiers() : dropModifiers();
+        isActiveWindow() ? modifiers_.didGetKeyboard() : modifiers_.didLoseKeyboard();
     }
 }
 
 void CalculatorWindow::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
-    adoptModifiers();
+    modifiers_.didGetKeyboard();
 }
 
 void CalculatorWindow::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
-    dropModifiers();
+    modifiers_.didLoseKeyboard();
 }
 
 // Tab is a key of the calculator.

@@ -1,20 +1,19 @@
 #pragma once
 
-#include <QTimer>
 #include <QWidget>
-#include <array>
+#include <memory>
 
 #include "platform/NSWindow.h"
 #include "qt/FocusWalk.h"
+#include "qt/ModifierWatch.h"
 #include "qt/TopLevel.h"
+#include "qt/WindowDrawers.h"
 #include "qt/WindowPlace.h"
-#include "qt/key_events.h"
 #include "ui/DYXWindowController.h"
 
 namespace talvex {
 
 class BodyWidget;
-class DrawerWidget;
 class SizeGrip;
 
 // The calculator on the screen: the body and the drawers around it. Only they can be seen and
@@ -57,15 +56,10 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     void didTakeShape();
     // No drawer opens while the body moves, nor without a canvas, which this asks for.
     bool mayDrawerOpen();
-    [[nodiscard]] bool isWhole() const;  // all drawers are made
     // The body or a drawer is somewhere else.
     void showPieces();
     void openWaitingDrawers();
     void giveBackRoom();
-    void adoptModifiers();
-    void keepModifiers(Qt::KeyboardModifiers modifiers);
-    void dropModifiers();
-    void sendFlags();
     // The size that the record wants, as far as the screen allows it.
     void takeSize();
     [[nodiscard]] double factorOfRecord() const;
@@ -76,12 +70,11 @@ class CalculatorWindow final : public QWidget, public NSWindowObserver {
     BodyWidget* body_ = nullptr;
     SizeGrip* sizeGrip_ = nullptr;
     int wheelWay_ = 0;  // of a notch that isn't whole yet
-    std::array<DrawerWidget*, kDrawerNames.size()> drawers_{};
+    std::unique_ptr<WindowDrawers> drawers_;
     std::u16string helpOn_;
     TopLevel topLevel_;
     WindowPlace place_;
-    HeldModifiers heldModifiers_;
-    QTimer adoptedWatch_;
+    ModifierWatch modifiers_;
     FocusWalk focusWalk_;
 };
 
