@@ -51,11 +51,11 @@ void chooseWorst(benchmark::State& state) {
 BENCHMARK(chooseWorst)->Name("choose/worst_operands")->Iterations(1);
 
 void bessel(benchmark::State& state, double order, double x) {
-    // The standard library runs its recurrences to their end.
+    // Up to 1000 the standard library has recurrences too, beyond it an asymptotic series.
     compare(
         state, [=] { return besselJv(order, x); }, [=] { return std::cyl_bessel_j(order, x); });
 }
-BENCHMARK_CAPTURE(bessel, order_0_at_9800, 0.0, 9800.0);
+BENCHMARK_CAPTURE(bessel, order_0_at_980, 0.0, 980.0);
 BENCHMARK_CAPTURE(bessel, order_1e9_at_1, 1e9, 1.0)->Iterations(1);
 
 void inversion(benchmark::State& state, double (*inverse)(double), double (*function)(double),
